@@ -1,0 +1,115 @@
+#include "data/DataFileLoader.h"
+
+#include <algorithm>
+
+#include "data/DataTexts.h"
+#include "data/Windows1252.h"
+
+namespace brask {
+namespace {
+
+using namespace data_texts;
+
+// The shortest line that is a reading takes about half of the usual one; what lies beyond the
+// estimate moves the arrays, which is slower but as right.
+std::size_t ExpectedReadings(std::uint64_t fileSize) {
+    constexpr std::uint64_t kMost =
+        1 << 26;  // never set aside more than a file could be honest about
+    return static_cast<std::size_t>(std::min(fileSize / FixedLineParser::kLineLength, kMost)) + 502;
+}
+
+std::string BadLineText(const Texts& texts, const LineReport& report) {
+    const std::string field = Windows1252ToUtf8(report.Field);
+    std::string text;
+    if (report.Problem == LineProblem::kInvalidDate) {
+        text = texts.Fill(kInvalidDate, {Windows1252ToUtf8(report.Rewritten), field});
+    } else if (report.Problem == LineProblem::kInvalidGas) {
+        text = texts.Fill(kInvalidGas, {field});
+    } else {
+        text = texts.Fill(kInvalidTemperature, {field});
+    }
+    return text + "\r\n" + texts.Fill(kOriginalLine, {Windows1252ToUtf8(report.Line)}) + "\r\n" +
+           texts.Find(kIgnoringLine);
+}
+
+}  // namespace
+
+bool LiesInTempDirectory(const Files& files, const std::string& path) {
+    std::string lower = files.Absolute(path);
+    for (char& c : lower) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    const std::string separator(1, files.Separator());
+    return lower.find(separator + "temp" + separator) != std::string::npos;
+}
+
+DataFileLoader::DataFileLoader(DataSet& data, UserInterface& user, const Texts& texts, Files& files,
+                               DiagnosticLog& log)
+    : data_(data), user_(user), texts_(texts), files_(files), log_(log) {}
+
+LoadOutcome DataFileLoader::LoadDataFile(const ReadOptions& options) {
+    rejectedLines_ = 0;
+    showBadLines_ = true;
+    cancelled_ = false;
+    if (data_.CurrentDataFile.empty()) {
+        data_.Recreate(0);
+        return LoadOutcome::kNoFile;
+    }
+    user_.BeginProgress(ProgressMode::kReadingFile);
+    Read(options);
+    user_.EndProgress();
+    if (cancelled_) {
+        data_.Recreate(0);
+        return LoadOutcome::kCancelled;
+    }
+    if (data_.ReadingCount > 0) return LoadOutcome::kRead;
+    ShowText(texts_.Find(kNoDataWasRead));
+    return LoadOutcome::kNothingRead;
+}
+
+void DataFileLoader::Read(const ReadOptions& options) {
+    const std::string& path = data_.CurrentDataFile;
+    if (LiesInTempDirectory(files_, path)) {
+        data_.Recreate(0);
+        log_.WriteLog(texts_.Fill(kTempDirectory, {path}));
+        return;
+    }
+    auto opened = files_.Open(path);
+    data_.Recreate(opened.Ok() ? ExpectedReadings(opened.Value()->Size()) : 0);
+    if (!opened.Ok()) {
+        ShowText(texts_.Fill(kCannotRead, {path, opened.Why().Reason}));
+        return;
+    }
+    const ReadSummary summary = DataFileReader(data_, options, *this).ReadDataFile(*opened.Value());
+    rejectedLines_ = summary.RejectedLines;
+    cancelled_ = summary.Cancelled || user_.Ended();
+    if (cancelled_) return;
+    if (!summary.Outcome.Ok()) {
+        ShowText(texts_.Fill(kCannotRead, {path, summary.Outcome.Why().Reason}));
+    }
+    if (data_.ReadingCount == 0 && summary.LoneLineFeeds) {
+        user_.ShowNotice(texts_.Fill(kLoneLineFeeds, {BaseName(files_, path)}));
+    }
+}
+
+void DataFileLoader::OnBadLine(const LineReport& report) {
+    if (report.Problem == LineProblem::kTooLong) {
+        log_.WriteLog(
+            texts_.Fill(kLineTooLong, {data_.CurrentDataFile, std::to_string(report.LineNumber)}));
+        return;
+    }
+    if (!showBadLines_ || user_.Ended()) return;
+    showBadLines_ =
+        user_.ShowRepeatedMessage({texts_.Find(kProgramTitle), BadLineText(texts_, report)});
+}
+
+bool DataFileLoader::KeepReading() {
+    user_.LetEventsRun();
+    return !user_.ProgressCancelled() && !user_.Ended();
+}
+
+void DataFileLoader::ShowText(const std::string& text) {
+    user_.ShowMessage({texts_.Find(kProgramTitle), text});
+}
+
+}  // namespace brask

@@ -1,0 +1,197 @@
+#include "data/DataFileReader.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <memory>
+#include <optional>
+
+#include "data/NumberText.h"
+
+namespace brask {
+namespace {
+
+constexpr std::size_t kBlockSize = 256 * 1024;
+// Events get their turn once per so many candidate lines: some 10 µs, far below what anyone sees.
+constexpr std::uint32_t kLinesPerTurn = 256;
+constexpr std::int32_t kReadingsPerReport = 100;
+constexpr std::string_view kInstrumentKey = "INSTRUMENT:";
+
+char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+bool SameUpper(char c, char upper) { return Upper(c) == upper; }
+
+bool EqualsUpper(std::string_view text, std::string_view upper) {
+    return std::equal(text.begin(), text.end(), upper.begin(), upper.end(), SameUpper);
+}
+
+bool ContainsUpper(std::string_view text, std::string_view upper) {
+    return std::search(text.begin(), text.end(), upper.begin(), upper.end(), SameUpper) !=
+           text.end();
+}
+
+std::string Trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+// The header field that a key fills; nullptr when it is no header key.
+std::string* HeaderField(DataSet& data, std::string_view key) {
+    if (EqualsUpper(key, kInstrumentKey)) return &data.InstrumentName;
+    if (EqualsUpper(key, "SERIAL NUMBER:")) return &data.InstrumentSerialNumber;
+    if (EqualsUpper(key, "DATE:")) return &data.InstrumentDate;
+    if (EqualsUpper(key, "GAS:")) return &data.InstrumentGas;
+    return nullptr;
+}
+
+// The three fields of a data line; nothing for any other number of fields.
+std::optional<std::array<std::string_view, 3>> SplitFields(std::string_view line) {
+    const auto first = line.find(',');
+    const auto second = first == std::string_view::npos ? first : line.find(',', first + 1);
+    if (second == std::string_view::npos) return std::nullopt;
+    const std::string_view last = line.substr(second + 1);
+    if (last.find(',') != std::string_view::npos) return std::nullopt;
+    return std::array{line.substr(0, first), line.substr(first + 1, second - first - 1), last};
+}
+
+}  // namespace
+
+DataFileReader::DataFileReader(DataSet& data, const ReadOptions& options, ReadObserver& observer)
+    : data_(data), options_(options), observer_(observer) {}
+
+ReadSummary DataFileReader::ReadDataFile(InputFile& file) {
+    const auto buffer = std::make_unique_for_overwrite<char[]>(kBlockSize);
+    while (!summary_.Cancelled) {
+        const auto read = file.Read({buffer.get(), kBlockSize});
+        if (!read.Ok()) summary_.Outcome = read.Why();
+        if (!read.Ok() || read.Value() == 0) break;
+        ReadBlock({buffer.get(), read.Value()});
+    }
+    if (!pending_.empty() && !dropping_ && !summary_.Cancelled) EndLine({});
+    return summary_;
+}
+
+void DataFileReader::ReadBlock(std::string_view block) {
+    if (afterCarriageReturn_ && block.front() == '\n') block.remove_prefix(1);
+    afterCarriageReturn_ = false;
+    while (!block.empty() && !summary_.Cancelled) {
+        if (pending_.empty() && !dropping_) block.remove_prefix(ReadFixedLines(block));
+        const auto end = block.find('\r');
+        if (end == std::string_view::npos) {
+            KeepForNextBlock(block);
+            return;
+        }
+        EndLine(block.substr(0, end));
+        block.remove_prefix(end + 1);
+        afterCarriageReturn_ = block.empty();
+        if (!block.empty() && block.front() == '\n') block.remove_prefix(1);
+    }
+}
+
+// Reads lines of the fixed form from the start of the block for as long as they come; the number
+// of bytes that they take.
+std::size_t DataFileReader::ReadFixedLines(std::string_view block) {
+    const char* const start = block.data();
+    const char* line = start;
+    FixedReading reading{};
+    for (std::size_t left = block.size(); left >= FixedLineParser::kLineLength;
+         left -= FixedLineParser::kLineLength) {
+        if (!fixed_.Parse(line, reading) || !MayGoOn()) break;
+        ++lineNumber_;
+        Append(reading.Time, reading.Gas, reading.Celsius);
+        line += FixedLineParser::kLineLength;
+    }
+    return static_cast<std::size_t>(line - start);
+}
+
+void DataFileReader::KeepForNextBlock(std::string_view part) {
+    if (dropping_) return;
+    if (pending_.size() + part.size() <= kLongestLine) {
+        pending_ += part;
+        return;
+    }
+    pending_ = std::string();
+    dropping_ = true;
+    observer_.OnBadLine({LineProblem::kTooLong, lineNumber_ + 1, {}, {}, {}});
+}
+
+// Handles the line that `end` ends: all of it, or its last part when it began in another block.
+void DataFileReader::EndLine(std::string_view end) {
+    if (!pending_.empty() || dropping_) {
+        KeepForNextBlock(end);
+        end = pending_;
+    }
+    ++lineNumber_;
+    if (!dropping_) ParseDataFileLine(end);
+    dropping_ = false;
+    pending_.clear();
+}
+
+void DataFileReader::ParseDataFileLine(std::string_view line) {
+    if (line.find('\n') != std::string_view::npos) summary_.LoneLineFeeds = true;
+    const auto colon = line.find(':');
+    if (colon == std::string_view::npos) return;
+    std::string_view key =
+        ContainsUpper(line, kInstrumentKey) ? kInstrumentKey : line.substr(0, colon + 1);
+    while (key.size() >= 2 && key.front() == '\n') key.remove_prefix(1);
+    if (std::string* field = HeaderField(data_, key)) {
+        // users rely on it: the value starts after the line's first colon, also where
+        // "INSTRUMENT:" comes after an earlier one
+        *field = Trimmed(line.substr(colon + 1));
+        return;
+    }
+    AcceptReadingLine(line);
+}
+
+void DataFileReader::AcceptReadingLine(std::string_view line) {
+    if (!MayGoOn()) return;
+    const auto fields = SplitFields(line);
+    if (!fields) return;
+    const auto& [timeField, gasField, temperatureField] = *fields;
+
+    const std::string rewritten = ToLocaleDateText(timeField, options_.DateOrder);
+    const auto time = ParseDateTime(rewritten, options_.DateOrder);
+    if (!time) {
+        Report({LineProblem::kInvalidDate, lineNumber_, line, timeField, rewritten});
+        return;
+    }
+    const auto gas = ParseNumber(gasField);
+    if (!gas) {
+        // the message about the gas has always quoted the temperature field
+        Report({LineProblem::kInvalidGas, lineNumber_, line, temperatureField, {}});
+        return;
+    }
+    const auto celsius = ParseNumber(temperatureField);
+    if (!celsius) {
+        Report({LineProblem::kInvalidTemperature, lineNumber_, line, temperatureField, {}});
+        return;
+    }
+    Append(*time, *gas, *celsius);
+}
+
+void DataFileReader::Append(double time, double gas, double celsius) {
+    const std::int32_t count = ++data_.ReadingCount;
+    if (count % kReadingsPerReport == 0) observer_.OnReadings(count);
+    data_.EnsureReadingCapacity();
+    const auto slot = static_cast<std::size_t>(count) - 1;
+    data_.ReadingTime[slot] = time;
+    data_.GasPpm[slot] = gas;
+    data_.Temperature[slot] = options_.Unit.ToDisplayTemperature(celsius);
+}
+
+// Gives events their turn before a candidate line. False when the reading is to end.
+bool DataFileReader::MayGoOn() {
+    if (candidates_++ % kLinesPerTurn != 0) return true;
+    // a count that no longer fits its type ends the reading as a cancel does
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max() - 1000;
+    if (data_.ReadingCount > kMost || !observer_.KeepReading()) summary_.Cancelled = true;
+    return !summary_.Cancelled;
+}
+
+void DataFileReader::Report(const LineReport& report) {
+    ++summary_.RejectedLines;
+    observer_.OnBadLine(report);
+}
+
+}  // namespace brask

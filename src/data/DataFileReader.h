@@ -1,0 +1,91 @@
+// Reads a data file into the DataSet: header lines, data lines, and any other lines, which are
+// ignored. The reader talks to nobody: what it meets it reports to a ReadObserver.
+//
+// Lines end at CR or CR LF; a lone LF is no line end. Header lines are "INSTRUMENT:", "SERIAL
+// NUMBER:", "DATE:", "GAS:" with their value; data lines have exactly three comma-separated fields:
+// time stamp, gas in ppm, temperature in °C.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "data/DataSet.h"
+#include "data/FixedLine.h"
+#include "data/TemperatureUnit.h"
+#include "platform/Files.h"
+#include "platform/UserLocale.h"
+
+namespace brask {
+
+enum class LineProblem { kInvalidDate, kInvalidGas, kInvalidTemperature, kTooLong };
+
+// A line that was not read. Texts are the file's bytes.
+struct LineReport {
+    LineProblem Problem;
+    std::int64_t LineNumber;     // from 1
+    std::string_view Line;       // empty for a line that is too long
+    std::string_view Field;      // what a message about it quotes
+    std::string_view Rewritten;  // the time field as it was understood, for kInvalidDate
+};
+
+class ReadObserver {
+  public:
+    virtual ~ReadObserver() = default;
+
+    virtual void OnBadLine(const LineReport& report) = 0;
+    // At every 100th reading.
+    virtual void OnReadings(std::int32_t count) = 0;
+    // Asked before candidate lines, once per some hundred; false ends the reading.
+    virtual bool KeepReading() = 0;
+};
+
+struct ReadOptions {
+    LongDateOrder DateOrder = LongDateOrder::kMonthDayYear;
+    TemperatureUnit Unit;
+};
+
+struct ReadSummary {
+    Status Outcome;                  // why reading broke off, if the file could not be read
+    bool Cancelled = false;          // the observer ended it
+    bool LoneLineFeeds = false;      // line feeds without a CR were met
+    std::int64_t RejectedLines = 0;  // lines that a message is due for
+};
+
+class DataFileReader {
+  public:
+    // A longer line is dropped to its end.
+    static constexpr std::size_t kLongestLine = 1 << 20;
+
+    DataFileReader(DataSet& data, const ReadOptions& options, ReadObserver& observer);
+
+    // Adds every reading of the file to the DataSet, in blocks of 256 KiB, whatever its length.
+    ReadSummary ReadDataFile(InputFile& file);
+
+    // Classifies one line, without its line end, as header, data or other, and stores it.
+    void ParseDataFileLine(std::string_view line);
+
+  private:
+    void ReadBlock(std::string_view block);
+    std::size_t ReadFixedLines(std::string_view block);
+    void EndLine(std::string_view end);
+    void KeepForNextBlock(std::string_view part);
+    void AcceptReadingLine(std::string_view line);
+    void Append(double time, double gas, double celsius);
+    bool MayGoOn();
+    void Report(const LineReport& report);
+
+    DataSet& data_;
+    ReadOptions options_;
+    ReadObserver& observer_;
+    FixedLineParser fixed_;
+    ReadSummary summary_;
+    std::string pending_;               // the beginning of a line that goes on in the next block
+    bool dropping_ = false;             // within a line that is too long
+    bool afterCarriageReturn_ = false;  // at the end of the last block: a LF may follow
+    std::int64_t lineNumber_ = 0;
+    std::uint32_t candidates_ = 0;
+};
+
+}  // namespace brask

@@ -1,0 +1,16 @@
+#include "data/TemperatureUnit.h"
+
+#include "data/DataSet.h"
+
+namespace brask {
+
+void TemperatureUnit::SwitchTo(bool fahrenheit, DataSet& data) {
+    fahrenheit_ = fahrenheit;
+    for (std::int32_t i = 0; i < data.ReadingCount; ++i) {
+        double& temperature = data.Temperature[static_cast<std::size_t>(i)];
+        temperature =
+            fahrenheit ? 9.0 / 5.0 * temperature + 32.0 : (temperature - 32.0) * 5.0 / 9.0;
+    }
+}
+
+}  // namespace brask

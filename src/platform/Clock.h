@@ -1,0 +1,20 @@
+// Time as the program sees it; by hand in tests, so that nothing has to wait.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/CivilTime.h"
+
+namespace brask {
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+
+    // The user's local date and time.
+    virtual CivilDateTime Now() const = 0;
+    // Milliseconds since an arbitrary start; never goes back.
+    virtual std::int64_t SteadyMilliseconds() const = 0;
+};
+
+}  // namespace brask

@@ -1,0 +1,39 @@
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <cerrno>
+
+namespace brask {
+
+std::string BaseName(const Files& files, const std::string& path) {
+    const char separators[] = {'/', files.Separator(), '\0'};
+    const auto last = path.find_last_of(separators);
+    return last == std::string::npos ? path : path.substr(last + 1);
+}
+
+Result<std::string> ReadWholeFile(Files& files, const std::string& path, std::size_t limit) {
+    auto opened = files.Open(path);
+    if (!opened.Ok()) return opened.Why();
+    // one byte more than it should hold, to see the end without another round
+    std::string content(std::min<std::uint64_t>(limit, opened.Value()->Size()) + 1, '\0');
+    std::size_t length = 0;
+    for (;;) {
+        if (length > limit) return Error{EFBIG, "the file is larger than expected"};
+        if (length == content.size()) content.resize(std::min(limit + 1, 2 * length));
+        const auto read = opened.Value()->Read(std::span<char>(content).subspan(length));
+        if (!read.Ok()) return read.Why();
+        if (read.Value() == 0) break;
+        length += read.Value();
+    }
+    content.resize(length);
+    return content;
+}
+
+Status WriteWholeFile(Files& files, const std::string& path, std::string_view bytes) {
+    auto started = files.Replace(path);
+    if (!started.Ok()) return started.Why();
+    if (Status written = started.Value()->Write(bytes); !written.Ok()) return written;
+    return started.Value()->Commit();
+}
+
+}  // namespace brask

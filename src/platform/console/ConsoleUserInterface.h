@@ -1,0 +1,55 @@
+// The user at a terminal: messages and notices go to standard error, questions take their safe
+// answer, progress is a line on a terminal.
+#pragma once
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "platform/Clock.h"
+#include "platform/UserInterface.h"
+
+namespace brask {
+
+struct ConsoleOptions {
+    bool Yes = false;       // answer questions with yes and the error dialog with Retry
+    bool Progress = false;  // show progress; for terminals only
+};
+
+class ConsoleUserInterface final : public UserInterface {
+  public:
+    // Writes to `out`, which must outlive this object.
+    ConsoleUserInterface(std::FILE* out, const Clock& clock, ConsoleOptions options);
+
+    // Every message shown so far, in order, UTF-8.
+    const std::vector<std::string>& Messages() const { return messages_; }
+
+    void ShowMessage(const Message& message) override;
+    bool ShowRepeatedMessage(const Message& message) override;
+    bool AskYesNo(const Message& question) override;
+    bool AskRetry(const Message& message) override;
+    void BeginProgress(ProgressMode mode) override;
+    void SetProgressCount(std::int64_t count) override;
+    bool ProgressCancelled() const override { return false; }
+    void EndProgress() override;
+    void ShowNotice(const std::string& text) override;
+    void Beep() override {}
+    void SetWaitCursor(bool) override {}
+    void LetEventsRun() override {}
+    void EndProgram() override { ended_ = true; }
+    bool Ended() const override { return ended_; }
+
+  private:
+    void ClearProgress();
+    void WriteLines(const std::string& text);
+
+    std::FILE* out_;
+    const Clock& clock_;
+    ConsoleOptions options_;
+    std::vector<std::string> messages_;
+    std::int64_t nextProgress_ = 0;  // steady milliseconds
+    bool progressShown_ = false;
+    bool ended_ = false;
+};
+
+}  // namespace brask

@@ -1,0 +1,167 @@
+#include "platform/posix/PosixFiles.h"
+
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <thread>
+
+#include "platform/posix/PosixFolders.h"
+#include "platform/posix/PosixHandle.h"
+#include "platform/posix/PosixReplacementFile.h"
+
+namespace brask {
+namespace {
+
+using posix::Handle;
+using posix::LastError;
+
+class PosixInputFile final : public InputFile {
+  public:
+    PosixInputFile(Handle handle, std::uint64_t size) : handle_(std::move(handle)), size_(size) {}
+
+    Result<std::size_t> Read(std::span<char> buffer) override {
+        std::size_t length = 0;
+        while (length < buffer.size()) {
+            const ssize_t count =
+                ::read(handle_.Get(), buffer.data() + length, buffer.size() - length);
+            if (count < 0 && errno == EINTR) continue;
+            if (count < 0) return LastError();
+            if (count == 0) break;
+            length += static_cast<std::size_t>(count);
+        }
+        return length;
+    }
+    std::uint64_t Size() const override { return size_; }
+
+  private:
+    Handle handle_;
+    std::uint64_t size_;
+};
+
+class PosixFileLock final : public FileLock {
+  public:
+    explicit PosixFileLock(Handle handle) : handle_(std::move(handle)) {}
+
+  private:
+    Handle handle_;  // closing it lets go of the lock
+};
+
+Error NotRegular(mode_t mode) {
+    if (S_ISDIR(mode)) return {EISDIR, std::strerror(EISDIR)};
+    return {0, "not a regular file"};
+}
+
+}  // namespace
+
+Result<std::unique_ptr<InputFile>> PosixFiles::Open(const std::string& path) {
+    // O_NONBLOCK: opening a pipe would wait for its other end before we could see that it is one
+    Handle handle(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!handle.Open()) return LastError();
+    struct stat status {};
+    if (::fstat(handle.Get(), &status) != 0) return LastError();
+    if (!S_ISREG(status.st_mode)) return NotRegular(status.st_mode);
+    ::posix_fadvise(handle.Get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    std::unique_ptr<InputFile> file = std::make_unique<PosixInputFile>(
+        std::move(handle), static_cast<std::uint64_t>(status.st_size));
+    return file;
+}
+
+Result<std::unique_ptr<ReplacementFile>> PosixFiles::Replace(const std::string& path) {
+    auto started = posix::PosixReplacementFile::Start(path, false);
+    if (!started.Ok()) return started.Why();
+    std::unique_ptr<ReplacementFile> file = std::move(started.Value());
+    return file;
+}
+
+Status PosixFiles::Append(const std::string& path, std::string_view bytes) {
+    Handle handle(
+        ::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666));
+    if (!handle.Open()) return LastError();
+    if (Status written = posix::WriteAll(handle.Get(), bytes); !written.Ok()) return written;
+    if (!handle.Close()) return LastError();
+    return {};
+}
+
+Result<std::string> PosixFiles::CreateTemporary(const std::string& namePrefix) {
+    std::error_code code;
+    std::string path = std::filesystem::temp_directory_path(code).string();
+    if (code) path = "/tmp";
+    path += "/" + namePrefix + "XXXXXX";
+    const Handle handle(::mkostemp(path.data(), O_CLOEXEC));
+    if (!handle.Open()) return LastError();
+    return path;
+}
+
+Status PosixFiles::CopyToNew(const std::string& source, const std::string& target) {
+    auto opened = Open(source);
+    if (!opened.Ok()) return opened.Why();
+    auto started = posix::PosixReplacementFile::Start(target, true);
+    if (!started.Ok()) return started.Why();
+    std::string block(256 * 1024, '\0');
+    for (;;) {
+        const auto read = opened.Value()->Read(block);
+        if (!read.Ok()) return read.Why();
+        if (read.Value() == 0) return started.Value()->Commit();
+        const Status written = started.Value()->Write({block.data(), read.Value()});
+        if (!written.Ok()) return written;
+    }
+}
+
+Status PosixFiles::Move(const std::string& source, const std::string& target) {
+    return ::rename(source.c_str(), target.c_str()) == 0 ? Status() : LastError();
+}
+
+Status PosixFiles::Remove(const std::string& path) {
+    return ::unlink(path.c_str()) == 0 ? Status() : LastError();
+}
+
+Status PosixFiles::MakeDirectory(const std::string& path) {
+    return ::mkdir(path.c_str(), 0777) == 0 ? Status() : LastError();
+}
+
+Status PosixFiles::MakeDirectoryChain(const std::string& path) {
+    std::error_code code;
+    std::filesystem::create_directories(path, code);
+    if (code) return Error{code.value(), code.message()};
+    if (!IsDirectory(path)) return Error{ENOTDIR, std::strerror(ENOTDIR)};
+    return {};
+}
+
+bool PosixFiles::Exists(const std::string& path) const { return ::access(path.c_str(), F_OK) == 0; }
+
+bool PosixFiles::IsDirectory(const std::string& path) const {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+Result<std::unique_ptr<FileLock>> PosixFiles::Lock(const std::string& path) {
+    using namespace std::chrono_literals;
+    Handle handle(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+    if (!handle.Open()) return LastError();
+    constexpr int kAttempts = 200;
+    for (int attempt = 0; ::flock(handle.Get(), LOCK_EX | LOCK_NB) != 0; ++attempt) {
+        if (errno != EWOULDBLOCK && errno != EINTR) return LastError();
+        if (attempt == kAttempts) return Error{0, "another program holds " + path};
+        std::this_thread::sleep_for(10ms);
+    }
+    std::unique_ptr<FileLock> lock = std::make_unique<PosixFileLock>(std::move(handle));
+    return lock;
+}
+
+std::string PosixFiles::Folder(KnownFolder folder) const {
+    return posix::XdgFolder(folder, [](const char* name) {
+        const char* value = std::getenv(name);
+        return std::string(value == nullptr ? "" : value);
+    });
+}
+
+std::string PosixFiles::Absolute(const std::string& path) const {
+    std::error_code code;
+    const auto absolute = std::filesystem::absolute(path, code);
+    return code ? path : absolute.lexically_normal().string();
+}
+
+}  // namespace brask

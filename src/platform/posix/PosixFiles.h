@@ -1,0 +1,27 @@
+// Files on a POSIX system. Folders follow the XDG base directories.
+#pragma once
+
+#include "platform/Files.h"
+
+namespace brask {
+
+class PosixFiles final : public Files {
+  public:
+    Result<std::unique_ptr<InputFile>> Open(const std::string& path) override;
+    Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) override;
+    Status Append(const std::string& path, std::string_view bytes) override;
+    Result<std::string> CreateTemporary(const std::string& namePrefix) override;
+    Status CopyToNew(const std::string& source, const std::string& target) override;
+    Status Move(const std::string& source, const std::string& target) override;
+    Status Remove(const std::string& path) override;
+    Status MakeDirectory(const std::string& path) override;
+    Status MakeDirectoryChain(const std::string& path) override;
+    bool Exists(const std::string& path) const override;
+    bool IsDirectory(const std::string& path) const override;
+    Result<std::unique_ptr<FileLock>> Lock(const std::string& path) override;
+    std::string Folder(KnownFolder folder) const override;
+    std::string Absolute(const std::string& path) const override;
+    char Separator() const override { return '/'; }
+};
+
+}  // namespace brask

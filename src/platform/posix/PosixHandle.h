@@ -1,0 +1,70 @@
+// A file descriptor that closes itself, and errno as a value.
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "platform/Result.h"
+
+namespace brask::posix {
+
+// The error that errno names now.
+inline Error LastError() {
+    const int number = errno;
+    char buffer[256] = "";
+    return {number, strerror_r(number, buffer, sizeof buffer)};
+}
+
+class Handle {
+  public:
+    explicit Handle(int descriptor = -1) : descriptor_(descriptor) {}
+    ~Handle() { Close(); }
+    Handle(Handle&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    Handle& operator=(Handle&& other) noexcept {
+        if (this != &other) {
+            Close();
+            descriptor_ = std::exchange(other.descriptor_, -1);
+        }
+        return *this;
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+
+    bool Open() const { return descriptor_ >= 0; }
+    int Get() const { return descriptor_; }
+    // False when the system reports a late write error.
+    bool Close() {
+        const int descriptor = std::exchange(descriptor_, -1);
+        return descriptor < 0 || ::close(descriptor) == 0;
+    }
+
+  private:
+    int descriptor_;
+};
+
+// Writes all bytes, however many calls that takes.
+inline Status WriteAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) return LastError();
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return {};
+}
+
+// Flushes a directory, so that a name made or changed in it survives a power cut.
+inline Status FlushDirectory(const std::string& directory) {
+    const Handle handle(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!handle.Open()) return LastError();
+    // some file systems have nothing to flush in a directory and say so
+    if (::fsync(handle.Get()) != 0 && errno != EINVAL) return LastError();
+    return {};
+}
+
+}  // namespace brask::posix

@@ -1,0 +1,31 @@
+#include "platform/posix/PosixSystemInformation.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <string_view>
+
+namespace brask {
+
+std::string PosixSystemInformation::ErrorText(int number) const {
+    char buffer[256] = "";
+    const std::string_view text = strerror_r(number, buffer, sizeof buffer);
+    // the C library has an answer for every number; its "Unknown error 12345" is none
+    return text.substr(0, 13) == "Unknown error" ? std::string() : std::string(text);
+}
+
+std::string PosixSystemInformation::UserName() const {
+    const passwd* entry = getpwuid(getuid());
+    return entry != nullptr ? entry->pw_name : std::to_string(getuid());
+}
+
+std::string PosixSystemInformation::ProgramDirectory() const {
+    char path[4096];
+    const ssize_t length = readlink("/proc/self/exe", path, sizeof path);
+    if (length <= 0) return ".";
+    const std::string_view program(path, static_cast<std::size_t>(length));
+    return std::string(program.substr(0, program.find_last_of('/')));
+}
+
+}  // namespace brask

@@ -1,0 +1,88 @@
+#include "platform/posix/PosixUserLocale.h"
+
+#include <langinfo.h>
+#include <locale.h>
+
+#include <ctime>
+
+namespace brask {
+
+LongDateOrder DateOrderOfFormat(const std::string& format) {
+    std::string order;
+    for (std::size_t i = 0; i + 1 < format.size(); ++i) {
+        if (format[i] != '%') continue;
+        char code = format[++i];
+        // flags and the E and O modifiers stand in front of the letter
+        while ((code == '-' || code == '_' || code == '0' || code == 'E' || code == 'O') &&
+               i + 1 < format.size()) {
+            code = format[++i];
+        }
+        if (code == 'D') order += "mdy";
+        if (code == 'F') order += "ymd";
+        if (code == 'd' || code == 'e') order += 'd';
+        if (code == 'm' || code == 'b' || code == 'B' || code == 'h') order += 'm';
+        if (code == 'y' || code == 'Y') order += 'y';
+    }
+    if (order == "dmy") return LongDateOrder::kDayMonthYear;
+    if (order == "ymd") return LongDateOrder::kYearMonthDay;
+    return LongDateOrder::kMonthDayYear;
+}
+
+PosixUserLocale::PosixUserLocale(const char* name) {
+    locale_t locale = newlocale(LC_ALL_MASK, name, nullptr);
+    if (locale == nullptr) locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    handle_ = reinterpret_cast<Handle*>(locale);
+}
+
+PosixUserLocale::~PosixUserLocale() { freelocale(reinterpret_cast<locale_t>(handle_)); }
+
+LongDateOrder PosixUserLocale::DateOrder() const {
+    return DateOrderOfFormat(nl_langinfo_l(D_FMT, reinterpret_cast<locale_t>(handle_)));
+}
+
+char PosixUserLocale::DecimalSign() const {
+    const char* sign = nl_langinfo_l(RADIXCHAR, reinterpret_cast<locale_t>(handle_));
+    return sign[0] == ',' ? ',' : '.';
+}
+
+std::string PosixUserLocale::Format(const char* format, const CivilDateTime& time) const {
+    std::tm fields{};
+    fields.tm_year = time.Date.Year - 1900;
+    fields.tm_mon = time.Date.Month - 1;
+    fields.tm_mday = time.Date.Day;
+    fields.tm_hour = time.Hour;
+    fields.tm_min = time.Minute;
+    fields.tm_sec = time.Second;
+    char text[256];
+    const auto length =
+        strftime_l(text, sizeof text, format, &fields, reinterpret_cast<locale_t>(handle_));
+    return {text, length};
+}
+
+std::string PosixUserLocale::ShortDate(const CivilDate& date) const {
+    return Format("%x", {date, 0, 0, 0});
+}
+
+std::string PosixUserLocale::LongTime(const CivilDateTime& time) const {
+    return Format("%X", time);
+}
+
+std::array<std::string, 7> PosixUserLocale::DayNames() const {
+    std::array<std::string, 7> names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i] =
+            nl_langinfo_l(DAY_1 + static_cast<nl_item>(i), reinterpret_cast<locale_t>(handle_));
+    }
+    return names;
+}
+
+std::array<std::string, 12> PosixUserLocale::MonthNames() const {
+    std::array<std::string, 12> names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i] =
+            nl_langinfo_l(MON_1 + static_cast<nl_item>(i), reinterpret_cast<locale_t>(handle_));
+    }
+    return names;
+}
+
+}  // namespace brask

@@ -1,0 +1,126 @@
+// The charting component: what the plot consists of, and its rules. Drawing it is DynaPlot's work.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "data/ColorValue.h"
+#include "plot/CurvePyramid.h"
+
+namespace brask {
+
+enum class ChartAxis { kLeft, kRight };
+enum class LineStyle { kSolid, kDotted };
+// The component's own codes.
+enum class CurveStyle { kLine = 0, kPoint = 2, kLineWithMarkers = 8 };
+
+struct AxisRange {
+    double Minimum = 0;
+    double Maximum = 1;
+    bool operator==(const AxisRange&) const = default;
+};
+
+// An axis keeps the values that it was given, also those that cannot be drawn as they are (equal
+// or inverted): drawing makes do.
+class ChartAxisScale {
+  public:
+    const AxisRange& Range() const { return range_; }
+    // Sets both ends together, in any order.
+    void SetRange(double minimum, double maximum) { range_ = {minimum, maximum}; }
+    // Set one end; false, and nothing changed, when the minimum would come to lie above the
+    // maximum or the value is not finite.
+    bool SetMinimum(double minimum);
+    bool SetMaximum(double maximum);
+
+    std::string Title;  // UTF-8, lines joined by CR LF
+    ColorValue Color;   // of its labels and title
+
+  private:
+    AxisRange range_;
+};
+
+struct TickLabel {
+    double Position = 0;
+    std::string Text;
+    bool Visible = true;  // a hidden label still has its tick
+};
+
+// The X axis is numeric with a table of labels of its own, or a date axis.
+struct XAxisLabels {
+    std::vector<TickLabel> Custom;  // used unless a date format is set
+    std::string DateFormat;         // such as "%d-%b-%Y\n%X"; empty for a numeric axis
+};
+
+struct MarkerStyle {
+    ColorValue Color;
+    double Size = 5;  // pixels across
+};
+
+// One curve. X and Y are shared: spans into arrays that somebody else owns and that stay until the
+// curves are cleared, or into OwnX and OwnY.
+struct Curve {
+    std::string Name;
+    std::span<const double> X;
+    std::span<const double> Y;
+    std::shared_ptr<const std::vector<double>> OwnX;  // keep X and Y alive when the curve has
+    std::shared_ptr<const std::vector<double>> OwnY;  // arrays of its own; may be empty
+    std::shared_ptr<const CurvePyramid> PyramidX;     // always present; curves with the same X
+    std::shared_ptr<const CurvePyramid> PyramidY;     // share theirs
+    ChartAxis Axis = ChartAxis::kLeft;
+    ColorValue Color;
+    LineStyle Line = LineStyle::kSolid;
+    double LineWidth = 1;  // pixels
+    CurveStyle Style = CurveStyle::kLine;
+    MarkerStyle Marker;
+};
+
+struct TitleBlock {
+    std::string FontName = "arial";
+    int FontSize = 15;  // points
+    std::string Title;
+    std::string Caption;  // the second line
+};
+
+struct ChartBackground {
+    std::string PictureFile;  // empty for none
+    bool Stretched = true;
+    ColorValue Chart = kWhite;   // around the axes
+    ColorValue Inside = kWhite;  // inside the axes
+    ColorValue Title = kBlack;   // the title's letters
+};
+
+class Chart {
+  public:
+    // Removes all curves, and sets the axes back to 0..1 without titles and labels.
+    void Clear();
+    // Removes the curves alone: before the arrays that they show go away.
+    void RemoveCurves();
+    void AddCurve(Curve curve) { curves_.push_back(std::move(curve)); }
+    std::span<const Curve> Curves() const { return curves_; }
+
+    ChartAxisScale X;
+    ChartAxisScale Y;   // left
+    ChartAxisScale Y1;  // right
+    XAxisLabels Labels;
+    std::optional<TitleBlock> Title;
+    ChartBackground Background;
+    std::string Readout;  // the line about the selected point
+
+    const ChartAxisScale& AxisOf(const Curve& curve) const {
+        return curve.Axis == ChartAxis::kLeft ? Y : Y1;
+    }
+
+  private:
+    std::vector<Curve> curves_;
+};
+
+// A temperature curve is one whose name contains "temp" in any letter case; the trimmed text in
+// front of it is the period's name, the whole name for any other curve.
+bool IsTemperatureCurve(const std::string& name);
+std::string PeriodName(const std::string& name);
+
+}  // namespace brask

@@ -1,0 +1,50 @@
+// Minima and maxima of a curve per block of readings, in levels, so that a drawing of any stretch
+// costs what the screen shows and not what the file holds, and still shows every spike.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <span>
+#include <vector>
+
+namespace brask {
+
+// The least and the greatest finite value of a run; Minimum above Maximum when there is none.
+struct ValueRange {
+    double Minimum = std::numeric_limits<double>::infinity();
+    double Maximum = -std::numeric_limits<double>::infinity();
+
+    bool Empty() const { return Minimum > Maximum; }
+    void Add(const ValueRange& other) {
+        if (other.Minimum < Minimum) Minimum = other.Minimum;
+        if (other.Maximum > Maximum) Maximum = other.Maximum;
+    }
+    void Add(double value);  // ignored unless finite
+};
+
+class CurvePyramid {
+  public:
+    // Readings in a block of the lowest level, and blocks of one level in a block of the next.
+    static constexpr std::size_t kBlock = 64;
+    static constexpr std::size_t kFanOut = 8;
+
+    CurvePyramid() = default;
+    // One pass over the values, which must outlive the pyramid unchanged.
+    explicit CurvePyramid(std::span<const double> values);
+
+    // Number of levels; 0 for an empty curve. Level 0 is the finest.
+    std::size_t Levels() const { return levels_.size(); }
+    // The blocks of one level in order; block i covers values i * Span(level) and on.
+    std::span<const ValueRange> Level(std::size_t level) const { return levels_[level]; }
+    // Values that a block of this level covers (the last one perhaps fewer).
+    static std::size_t Span(std::size_t level);
+    // Over all values.
+    ValueRange Whole() const;
+    // Memory that the levels take.
+    std::size_t Bytes() const;
+
+  private:
+    std::vector<std::vector<ValueRange>> levels_;
+};
+
+}  // namespace brask
