@@ -1,5 +1,9 @@
 #include "platform/console/ConsoleUserInterface.h"
 
+#include <algorithm>
+
+#include "platform/Utf8.h"
+
 namespace brask {
 namespace {
 
@@ -54,10 +58,10 @@ void ConsoleUserInterface::ClearProgress() {
 
 void ConsoleUserInterface::WriteLines(const std::string& text) {
     ClearProgress();
-    for (const char c : text) {
-        if (c != '\r') std::fputc(c, out_);
-    }
-    std::fputc('\n', out_);
+    std::string lines = text;
+    lines.erase(std::remove(lines.begin(), lines.end(), '\r'), lines.end());
+    lines = PrintableText(lines) + "\n";
+    std::fwrite(lines.data(), 1, lines.size(), out_);
 }
 
 }  // namespace brask

@@ -1,0 +1,14 @@
+// brask help and brask --version: what the program can do, from the tables that it goes by.
+#pragma once
+
+#include "cli/CommandLine.h"
+
+namespace brask {
+
+struct Shell;
+
+// All commands, or the one named as argument or in front of --help.
+ExitStatus RunHelp(Shell& shell, const CommandLine& line);
+ExitStatus RunVersion(Shell& shell, const CommandLine& line);
+
+}  // namespace brask

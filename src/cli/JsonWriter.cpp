@@ -1,0 +1,117 @@
+#include "cli/JsonWriter.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "platform/Utf8.h"
+
+namespace brask {
+namespace {
+
+// How a character stands within a string; the character itself for most.
+std::string_view Escaped(std::string_view character, std::span<char, 8> buffer) {
+    const auto code = static_cast<unsigned char>(character[0]);
+    if (character.size() == 1 && (code == '"' || code == '\\')) {
+        return code == '"' ? "\\\"" : "\\\\";
+    }
+    if (code >= 0x20) return character;
+    if (code == '\n') return "\\n";
+    if (code == '\r') return "\\r";
+    if (code == '\t') return "\\t";
+    std::snprintf(buffer.data(), buffer.size(), "\\u%04x", code);
+    return buffer.data();
+}
+
+}  // namespace
+
+void JsonWriter::Separate() {
+    if (afterValue_) out_.Write(",");
+}
+
+void JsonWriter::Begin(std::string_view bracket) {
+    Separate();
+    out_.Write(bracket);
+    afterValue_ = false;
+}
+
+void JsonWriter::End(std::string_view bracket) {
+    out_.Write(bracket);
+    afterValue_ = true;
+}
+
+void JsonWriter::Value(std::string_view text) {
+    Separate();
+    out_.Write(text);
+    afterValue_ = true;
+}
+
+void JsonWriter::Key(std::string_view key) {
+    String(key);
+    out_.Write(":");
+    afterValue_ = false;
+}
+
+void JsonWriter::String(std::string_view text) {
+    Separate();
+    out_.Write("\"");
+    while (!text.empty()) {
+        const std::size_t length = FirstCharacterLength(text);
+        char buffer[8];
+        out_.Write(length == 0 ? kReplacementCharacter : Escaped(text.substr(0, length), buffer));
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+    out_.Write("\"");
+    afterValue_ = true;
+}
+
+void JsonWriter::Number(double value) {
+    if (!std::isfinite(value)) {
+        Null();
+        return;
+    }
+    Separate();
+    out_.WriteNumber(value);
+    afterValue_ = true;
+}
+
+void JsonWriter::Integer(std::int64_t value) {
+    Separate();
+    out_.WriteInteger(value);
+    afterValue_ = true;
+}
+
+void JsonWriter::Member(std::string_view key, std::string_view text) {
+    Key(key);
+    String(text);
+}
+
+void JsonWriter::Member(std::string_view key, double value) {
+    Key(key);
+    Number(value);
+}
+
+void JsonWriter::IntegerMember(std::string_view key, std::int64_t value) {
+    Key(key);
+    Integer(value);
+}
+
+void JsonWriter::NullMember(std::string_view key) {
+    Key(key);
+    Null();
+}
+
+void JsonWriter::Member(std::string_view key, std::span<const std::string> texts) {
+    Key(key);
+    BeginArray();
+    for (const std::string& text : texts) String(text);
+    EndArray();
+}
+
+void JsonWriter::Member(std::string_view key, std::span<const double> values) {
+    Key(key);
+    BeginArray();
+    for (const double value : values) Number(value);
+    EndArray();
+}
+
+}  // namespace brask

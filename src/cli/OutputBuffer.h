@@ -1,0 +1,39 @@
+// Standard output in large pieces. The first write that fails is kept, and what comes after it is
+// dropped, so that writers need not check every piece.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "platform/Result.h"
+
+namespace brask {
+
+class OutputBuffer {
+  public:
+    // Writes to `out`, which must outlive this object.
+    explicit OutputBuffer(std::FILE* out);
+
+    void Write(std::string_view text) {
+        pending_ += text;
+        if (pending_.size() >= kPieceSize) Flush();
+    }
+    // The shortest text that reads back as this number.
+    void WriteNumber(double value);
+    void WriteInteger(std::int64_t value);
+    // Writes what is pending; whether everything arrived.
+    Status Finish();
+
+  private:
+    static constexpr std::size_t kPieceSize = 64 * 1024;
+
+    void Flush();
+
+    std::FILE* out_;
+    std::string pending_;
+    Status outcome_;
+};
+
+}  // namespace brask

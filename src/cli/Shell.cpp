@@ -1,0 +1,83 @@
+#include "cli/Shell.h"
+
+#include <cstdio>
+#include <new>
+#include <vector>
+
+#include "cli/CliTexts.h"
+#include "cli/HelpCommand.h"
+#include "data/DataTexts.h"
+#include "platform/Utf8.h"
+
+namespace brask {
+namespace {
+
+void WriteErrorLine(const std::string& line) {
+    std::fprintf(stderr, "%s\n", PrintableText(line).c_str());
+}
+
+ExitStatus RunCommand(Shell& shell, const CommandLine& line) {
+    if (line.Has("version")) return RunVersion(shell, line);
+    if (line.Has("help")) return RunHelp(shell, line);
+    return line.Command()->Run(shell, line);
+}
+
+ExitStatus RunWords(std::span<const CommandRow> commands, std::span<const std::string> words) {
+    NativeSystem system;
+    const EnglishTexts texts;
+    const auto line = CommandLine::Parse(commands, words, texts);
+    ConsoleOptions options;
+    if (line.Ok()) {
+        options.Yes = line.Value().Has("yes");
+        options.Progress =
+            !line.Value().Has("quiet") && system.OtherPrograms().ErrorOutputIsTerminal();
+    }
+    ConsoleUserInterface user(stderr, system.Time(), options);
+    OutputBuffer out(stdout);
+    Shell shell{system, texts, user, out, commands, words};
+    if (!line.Ok()) return WrongUsage(line.Why().Reason);
+    const ExitStatus status = RunCommand(shell, line.Value());
+    if (const Status written = out.Finish(); !written.Ok()) {
+        WriteErrorLine(texts.Fill(cli_texts::kCannotWriteResult, {written.Why().Reason}));
+        return ExitStatus::kFailed;
+    }
+    return status;
+}
+
+}  // namespace
+
+ExitStatus WrongUsage(std::string_view reason) {
+    std::string line = "brask: " + std::string(reason);
+    // a line end in an argument must not make two lines of the reason
+    for (char& c : line) c = c == '\n' ? ' ' : c;
+    WriteErrorLine(line);
+    return ExitStatus::kUsage;
+}
+
+std::string OptionMissing(const Shell& shell, const CommandRow& command, std::string_view option) {
+    return shell.Words.Fill(cli_texts::kOptionMissing,
+                            {OptionText(option), command.Name, command.Arguments});
+}
+
+void ShowFailure(Shell& shell, const std::string& text) {
+    shell.User.ShowMessage({shell.Words.Find(data_texts::kProgramTitle), text});
+}
+
+void EndDocument(Shell& shell, JsonWriter& json) {
+    json.Member("messages", shell.User.Messages());
+    json.EndObject();
+    shell.Out.Write("\n");
+}
+
+int RunProgram(std::span<const CommandRow> commands, std::span<char* const> arguments) {
+    try {
+        std::vector<std::string> words;
+        for (std::size_t i = 1; i < arguments.size(); ++i) words.emplace_back(arguments[i]);
+        return static_cast<int>(RunWords(commands, words));
+    } catch (const std::bad_alloc&) {
+        std::fprintf(stderr, "%s\n", cli_texts::kNoMemory.English);
+        return static_cast<int>(ExitStatus::kFailed);
+    }
+}
+
+}  // namespace brask

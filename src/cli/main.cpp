@@ -1,0 +1,41 @@
+// brask: what the window does to data, from a shell.
+#include <array>
+
+#include "cli/ExpandCommand.h"
+#include "cli/HelpCommand.h"
+#include "cli/InfoCommand.h"
+#include "cli/ListCommand.h"
+#include "cli/SettingsCommand.h"
+#include "cli/Shell.h"
+
+namespace {
+
+using brask::TextRow;
+
+const auto kCommands = std::to_array<brask::CommandRow>({
+    {"info", "FILE", TextRow("cli", "describe a data file"), {}, 1, 1, brask::RunInfo},
+    {"list", "FILE", TextRow("cli", "print readings as CSV"), brask::ListOptions(), 1, 1,
+     brask::RunList},
+    {"expand", "RAW -o OUT", TextRow("cli", "expand a received stream into a data file"),
+     brask::ExpandOptions(), 1, 1, brask::RunExpand},
+    {"settings",
+     "list | get KEY | set KEY VALUE",
+     TextRow("cli", "show or change stored options"),
+     {},
+     1,
+     3,
+     brask::RunSettings},
+    {"help",
+     "[COMMAND]",
+     TextRow("cli", "describe the commands, or one of them"),
+     {},
+     0,
+     1,
+     brask::RunHelp},
+});
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return brask::RunProgram(kCommands, {argv, static_cast<std::size_t>(argc)});
+}
