@@ -29,7 +29,9 @@ LongDateOrder DateOrderOfFormat(const std::string& format) {
 }
 
 PosixUserLocale::PosixUserLocale(const char* name) {
-    locale_t locale = newlocale(LC_ALL_MASK, name, nullptr);
+    // only what is asked for: loading all categories costs more than reading a small data file
+    constexpr int kCategories = LC_TIME_MASK | LC_NUMERIC_MASK;
+    locale_t locale = newlocale(kCategories, name, nullptr);
     if (locale == nullptr) locale = newlocale(LC_ALL_MASK, "C", nullptr);
     handle_ = reinterpret_cast<Handle*>(locale);
 }
