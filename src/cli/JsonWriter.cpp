@@ -22,6 +22,16 @@ std::string_view Escaped(std::string_view character, std::span<char, 8> buffer) 
     return buffer.data();
 }
 
+// How many bytes at the start stand for themselves: nearly always all.
+std::size_t PlainLength(std::string_view text) {
+    std::size_t length = 0;
+    while (length < text.size() && text[length] >= 0x20 && text[length] < 0x7F &&
+           text[length] != '"' && text[length] != '\\') {
+        ++length;
+    }
+    return length;
+}
+
 }  // namespace
 
 void JsonWriter::Separate() {
@@ -54,7 +64,11 @@ void JsonWriter::Key(std::string_view key) {
 void JsonWriter::String(std::string_view text) {
     Separate();
     out_.Write("\"");
-    while (!text.empty()) {
+    for (;;) {
+        const std::size_t plain = PlainLength(text);
+        out_.Write(text.substr(0, plain));
+        text.remove_prefix(plain);
+        if (text.empty()) break;
         const std::size_t length = FirstCharacterLength(text);
         char buffer[8];
         out_.Write(length == 0 ? kReplacementCharacter : Escaped(text.substr(0, length), buffer));
