@@ -95,7 +95,8 @@ struct ChartBackground {
 
 class Chart {
   public:
-    // Removes all curves, and sets the axes back to 0..1 without titles and labels.
+    // Removes all curves and the title, and sets the axes back to 0..1 without titles and labels.
+    // Background and readout stay.
     void Clear();
     // Removes the curves alone: before the arrays that they show go away.
     void RemoveCurves();

@@ -2,6 +2,7 @@
 // costs what the screen shows and not what the file holds, and still shows every spike.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <limits>
 #include <span>
@@ -19,7 +20,9 @@ struct ValueRange {
         if (other.Minimum < Minimum) Minimum = other.Minimum;
         if (other.Maximum > Maximum) Maximum = other.Maximum;
     }
-    void Add(double value);  // ignored unless finite
+    void Add(double value) {  // ignored unless finite
+        if (std::isfinite(value)) Add(ValueRange{value, value});
+    }
 };
 
 class CurvePyramid {
@@ -29,22 +32,26 @@ class CurvePyramid {
     static constexpr std::size_t kFanOut = 8;
 
     CurvePyramid() = default;
-    // One pass over the values, which must outlive the pyramid unchanged.
+    // One pass over the values, which are not kept: it holds for as long as they stay unchanged.
     explicit CurvePyramid(std::span<const double> values);
 
-    // Number of levels; 0 for an empty curve. Level 0 is the finest.
-    std::size_t Levels() const { return levels_.size(); }
+    // Number of levels; 0 for an empty curve. Level 0 is the finest, the last is one block.
+    std::size_t Levels() const { return levels_; }
     // The blocks of one level in order; block i covers values i * Span(level) and on.
-    std::span<const ValueRange> Level(std::size_t level) const { return levels_[level]; }
+    std::span<const ValueRange> Level(std::size_t level) const;
     // Values that a block of this level covers (the last one perhaps fewer).
     static std::size_t Span(std::size_t level);
     // Over all values.
     ValueRange Whole() const;
     // Memory that the levels take.
-    std::size_t Bytes() const;
+    std::size_t Bytes() const { return blocks_.capacity() * sizeof(ValueRange); }
 
   private:
-    std::vector<std::vector<ValueRange>> levels_;
+    // One block of memory for all levels, the finest first: a plot of overlapping days has
+    // hundreds of small pyramids.
+    std::vector<ValueRange> blocks_;
+    std::size_t finest_ = 0;  // blocks of level 0
+    std::size_t levels_ = 0;
 };
 
 }  // namespace brask

@@ -2,41 +2,24 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "data/DataSet.h"
-#include "data/PlotColors.h"
-#include "data/Settings.h"
-#include "data/TemperatureUnit.h"
 #include "platform/Texts.h"
 #include "platform/UserLocale.h"
 #include "plot/Chart.h"
+#include "plot/PeriodGrouping.h"
+#include "plot/PlotOptions.h"
 
 namespace brask {
 
-enum class GraphType { kContinuous = 0, kOverlapDays = 1, kOverlapWeeks = 2 };
-
-// What the user chose about the plot, as it stands now.
-struct PlotOptions {
-    GraphType Layout = GraphType::kContinuous;
-    int StartWeekOn = 0;  // 0 Sunday, 1 Monday
-    bool MarkDataPoints = true;
-    std::string TemperatureLabel;  // "°C" or "°F"
-    PlotColors Colors;
-    bool ColorLabelsLikeLines = true;
-    ColorValue AxisLabels = kBlack;
-    ChartBackground Background;
-};
-
-// The stored choices; the unit comes from the object in force.
-PlotOptions ReadPlotOptions(const Settings& settings, const TemperatureUnit& unit);
-
 class PlotBuilder {
   public:
+    // All four are used by every rebuild and must outlive the builder.
     PlotBuilder(Chart& chart, const DataSet& data, const UserLocale& locale, const Texts& texts);
 
     // Clears the chart and builds it from the data set. Without readings: axes and no title.
+    // The curves show the data set's own arrays: remove them before those change.
     void Rebuild(const PlotOptions& options);
 
     // First reading of each period of the last overlapping rebuild, in order; empty for the
@@ -47,12 +30,32 @@ class PlotBuilder {
     ColorValue TemperatureColor() const { return temperatureColor_; }
 
   private:
-    struct Extremes;
+    // Over all readings that are drawn.
+    struct Extremes {
+        double GasMaximum = 0;
+        double TemperatureMinimum = 5000;
+        double TemperatureMaximum = 0;
+    };
+    struct CurvePair {
+        Curve Gas;
+        Curve Temperature;
+    };
+
+    void BuildContinuous(const PlotOptions& options);
+    void BuildPeriods(const PeriodGrouping& grouping, const PlotOptions& options);
+    CurvePair PeriodCurves(const PeriodGrouping& grouping,
+                           const PeriodGrouping::Period& period) const;
+    ValueRange AddPair(CurvePair pair);
+    void LabelHours();
+    void LabelWeek(int startWeekOn);
+    void SetAxes(const PlotOptions& options);
+    void SetTitles(const PlotOptions& options);
 
     Chart& chart_;
     const DataSet& data_;
     const UserLocale& locale_;
     const Texts& texts_;
+    Extremes extremes_;
     std::vector<std::int32_t> periodStarts_;
     ColorValue gasColor_;
     ColorValue temperatureColor_;

@@ -1,0 +1,92 @@
+#include "plot/CurvePyramid.h"
+
+#include <algorithm>
+#include <array>
+
+namespace brask {
+namespace {
+
+std::size_t Blocks(std::size_t values, std::size_t perBlock) {
+    return (values + perBlock - 1) / perBlock;
+}
+
+ValueRange RangeOfAny(std::span<const double> values) {
+    ValueRange range;
+    for (const double value : values) range.Add(value);
+    return range;
+}
+
+// Several independent lanes let the compiler keep them in vector registers.
+ValueRange RangeOfFullBlock(std::span<const double, CurvePyramid::kBlock> values) {
+    constexpr std::size_t kLanes = 8;
+    std::array<double, kLanes> low;
+    std::array<double, kLanes> high;
+    std::array<double, kLanes> check{};
+    std::copy_n(values.begin(), kLanes, low.begin());
+    high = low;
+    for (std::size_t i = 0; i < values.size(); i += kLanes) {
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            const double value = values[i + lane];
+            low[lane] = value < low[lane] ? value : low[lane];
+            high[lane] = value > high[lane] ? value : high[lane];
+            check[lane] += value * 0.0;  // stays 0 only while every value is finite
+        }
+    }
+    double sum = 0;
+    for (const double lane : check) sum += lane;
+    if (!(sum == 0.0)) return RangeOfAny(values);
+    return {*std::min_element(low.begin(), low.end()), *std::max_element(high.begin(), high.end())};
+}
+
+}  // namespace
+
+CurvePyramid::CurvePyramid(std::span<const double> values) {
+    if (values.empty()) return;
+    finest_ = Blocks(values.size(), kBlock);
+    std::size_t total = finest_;
+    levels_ = 1;
+    for (std::size_t blocks = finest_; blocks > 1; ++levels_) {
+        blocks = Blocks(blocks, kFanOut);
+        total += blocks;
+    }
+    blocks_.reserve(total);
+
+    std::size_t done = 0;
+    for (; done + kBlock <= values.size(); done += kBlock) {
+        blocks_.push_back(RangeOfFullBlock(values.subspan(done).first<kBlock>()));
+    }
+    if (done < values.size()) blocks_.push_back(RangeOfAny(values.subspan(done)));
+
+    std::size_t first = 0;
+    for (std::size_t level = 1; level < levels_; ++level) {
+        const std::size_t end = blocks_.size();
+        for (; first < end; first += kFanOut) {
+            ValueRange joined;
+            for (std::size_t i = first; i < std::min(first + kFanOut, end); ++i) {
+                joined.Add(blocks_[i]);
+            }
+            blocks_.push_back(joined);
+        }
+        first = end;
+    }
+}
+
+std::span<const ValueRange> CurvePyramid::Level(std::size_t level) const {
+    std::size_t first = 0;
+    std::size_t count = finest_;
+    for (; level > 0; --level) {
+        first += count;
+        count = Blocks(count, kFanOut);
+    }
+    return std::span(blocks_).subspan(first, count);
+}
+
+std::size_t CurvePyramid::Span(std::size_t level) {
+    std::size_t span = kBlock;
+    for (; level > 0; --level) span *= kFanOut;
+    return span;
+}
+
+ValueRange CurvePyramid::Whole() const { return blocks_.empty() ? ValueRange{} : blocks_.back(); }
+
+}  // namespace brask
