@@ -5,6 +5,14 @@ namespace {
 
 constexpr std::int64_t kProgressInterval = 200;  // milliseconds
 
+// Messages quote bytes of files; a terminal would obey control characters among them. In UTF-8 the
+// second set of them is a 0xC2 and one more byte.
+bool IsControl(char before, char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20) return c != '\n' && c != '\t';
+    return byte == 0x7F || (before == '\xC2' && byte >= 0x80 && byte < 0xA0);
+}
+
 }  // namespace
 
 ConsoleUserInterface::ConsoleUserInterface(std::FILE* out, const Clock& clock,
@@ -54,8 +62,10 @@ void ConsoleUserInterface::ClearProgress() {
 
 void ConsoleUserInterface::WriteLines(const std::string& text) {
     ClearProgress();
+    char before = '\0';
     for (const char c : text) {
-        if (c != '\r') std::fputc(c, out_);
+        if (c != '\r') std::fputc(IsControl(before, c) ? '?' : c, out_);
+        before = c;
     }
     std::fputc('\n', out_);
 }
