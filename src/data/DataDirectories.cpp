@@ -46,7 +46,7 @@ std::string DataDirectories::Base(const Settings& settings, WindowsKind kind) co
 void DataDirectories::ResolveDataDirectories(const Settings& settings, WindowsKind kind) {
     const std::string separator(1, files_.Separator());
     std::string base = Base(settings, kind);
-    while (base.size() > 1 && base.back() == files_.Separator()) base.pop_back();
+    while (!base.empty() && base.back() == files_.Separator()) base.pop_back();
     dataRootDir_ = base + separator + "VEK" + separator;
     EnsureDirectory(dataRootDir_);
     pocketPcDir_ = dataRootDir_ + "From PocketPC" + separator;

@@ -64,9 +64,14 @@ ReadSummary DataFileReader::ReadDataFile(InputFile& file) {
     const auto buffer = std::make_unique_for_overwrite<char[]>(kBlockSize);
     while (!summary_.Cancelled) {
         const auto read = file.Read({buffer.get(), kBlockSize});
-        if (!read.Ok()) summary_.Outcome = read.Why();
-        if (!read.Ok() || read.Value() == 0) break;
-        ReadBlock({buffer.get(), read.Value()});
+        if (!read.Ok()) {
+            // the line that the failure cut is lost: half a number must not become a reading
+            summary_.Outcome = read.Why();
+            return summary_;
+        }
+        if (read.Value() == 0) break;
+        // also where a file has no candidate line for megabytes
+        if (AskObserver()) ReadBlock({buffer.get(), read.Value()});
     }
     if (!pending_.empty() && !dropping_ && !summary_.Cancelled) EndLine({});
     return summary_;
@@ -111,6 +116,8 @@ void DataFileReader::KeepForNextBlock(std::string_view part) {
         pending_ += part;
         return;
     }
+    NoteLineFeeds(pending_);
+    NoteLineFeeds(part);
     pending_ = std::string();
     dropping_ = true;
     observer_.OnBadLine({LineProblem::kTooLong, lineNumber_ + 1, {}, {}, {}});
@@ -129,7 +136,7 @@ void DataFileReader::EndLine(std::string_view end) {
 }
 
 void DataFileReader::ParseDataFileLine(std::string_view line) {
-    if (line.find('\n') != std::string_view::npos) summary_.LoneLineFeeds = true;
+    NoteLineFeeds(line);
     const auto colon = line.find(':');
     if (colon == std::string_view::npos) return;
     std::string_view key =
@@ -180,9 +187,17 @@ void DataFileReader::Append(double time, double gas, double celsius) {
     data_.Temperature[slot] = options_.Unit.ToDisplayTemperature(celsius);
 }
 
+void DataFileReader::NoteLineFeeds(std::string_view text) {
+    if (text.find('\n') != std::string_view::npos) summary_.LoneLineFeeds = true;
+}
+
 // Gives events their turn before a candidate line. False when the reading is to end.
 bool DataFileReader::MayGoOn() {
-    if (candidates_++ % kLinesPerTurn != 0) return true;
+    if (candidates_++ % kLinesPerTurn != 0) return !summary_.Cancelled;
+    return AskObserver();
+}
+
+bool DataFileReader::AskObserver() {
     // a count that no longer fits its type ends the reading as a cancel does
     constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max() - 1000;
     if (data_.ReadingCount > kMost || !observer_.KeepReading()) summary_.Cancelled = true;

@@ -37,7 +37,8 @@ class ReadObserver {
     virtual void OnBadLine(const LineReport& report) = 0;
     // At every 100th reading.
     virtual void OnReadings(std::int32_t count) = 0;
-    // Asked before candidate lines, once per some hundred; false ends the reading.
+    // Asked before candidate lines, once per some hundred, and before each block of the file;
+    // false ends the reading.
     virtual bool KeepReading() = 0;
 };
 
@@ -73,7 +74,9 @@ class DataFileReader {
     void KeepForNextBlock(std::string_view part);
     void AcceptReadingLine(std::string_view line);
     void Append(double time, double gas, double celsius);
+    void NoteLineFeeds(std::string_view text);
     bool MayGoOn();
+    bool AskObserver();
     void Report(const LineReport& report);
 
     DataSet& data_;

@@ -45,6 +45,8 @@ bool FilePlacing::PlaceReceivedFile(std::string source, std::string destination,
 }
 
 bool FilePlacing::MoveByCopy(const std::string& source, const std::string& destination) {
+    // already in its place: removing the source would remove the only copy
+    if (files_.Absolute(source) == files_.Absolute(destination)) return files_.Exists(source);
     const Status copied = CopyWhole(files_, source, destination);
     const Status removed = copied.Ok() ? files_.Remove(source) : copied;
     if (!removed.Ok()) lastError_ = removed.Why();

@@ -77,7 +77,9 @@ class FixedLineParser {
         }
         if (!Digit(text[width - 1], digit)) return false;
         tenths = tenths * 10 + digit;
-        value = (negative ? -tenths : tenths) / 10.0;
+        // negated behind the division, for a "-0.0" to stay one
+        value = tenths / 10.0;
+        if (negative) value = -value;
         return true;
     }
 

@@ -21,7 +21,7 @@ int PlotColors::StoredCount(const Settings& settings) {
 }
 
 void PlotColors::Initialise(Settings& settings) {
-    if (StoredCount(settings) == 0) RestoreDefaults(settings);
+    if (settings.Number("NumPlotColorsDefined") == 0) RestoreDefaults(settings);
 }
 
 void PlotColors::RestoreDefaults(Settings& settings) {

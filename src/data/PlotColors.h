@@ -20,7 +20,8 @@ class PlotColors {
     // The stored length of the table; 0 when the store holds no table.
     static int StoredCount(const Settings& settings);
 
-    // Writes the nine default colours when the store holds no table.
+    // Writes the nine default colours when the stored length is 0. An odd length (negative, a
+    // fraction) stays as it is.
     static void Initialise(Settings& settings);
     // Writes the nine defaults in any case.
     static void RestoreDefaults(Settings& settings);

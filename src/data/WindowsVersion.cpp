@@ -10,11 +10,14 @@ namespace {
 
 using namespace data_texts;
 
+// The service pack comes in a fixed buffer; only its text up to the first NUL counts.
+std::string ServicePackText(const VersionRecord& version) { return version.ServicePack.c_str(); }
+
 // The name by which a system too old is called in the warning; empty when it is new enough.
 std::string UnsupportedName(const VersionRecord& version) {
     if (version.Platform != 1 || version.Major != 4) return "";
     if (version.Minor < 10) return "95";
-    const bool secondEdition = version.ServicePack.find_first_of("Aa") != std::string::npos;
+    const bool secondEdition = ServicePackText(version).find_first_of("Aa") != std::string::npos;
     return version.Minor == 10 && !secondEdition ? "98 (not second edition)" : "";
 }
 
@@ -38,12 +41,10 @@ WindowsKind CheckWindowsVersion(const SystemInformation& system, UserInterface& 
     }
     const std::string name = UnsupportedName(*version);
     if (!name.empty() && !settings.IsNotNo("WarnedVers")) {
-        // the service pack comes in a fixed buffer; only its text up to the first NUL counts
-        const std::string servicePack = version->ServicePack.c_str();
-        user.ShowMessage(
-            {texts.Find(kVersionTitle),
-             texts.Fill(kVersionWarning, {name, std::to_string(version->Major),
-                                          std::to_string(version->Minor), servicePack})});
+        user.ShowMessage({texts.Find(kVersionTitle),
+                          texts.Fill(kVersionWarning,
+                                     {name, std::to_string(version->Major),
+                                      std::to_string(version->Minor), ServicePackText(*version)})});
         settings.Save("WarnedVers", "YES");
     }
     return ClassifyWindows(*version);

@@ -59,6 +59,9 @@ Result<IniFile> IniFile::Parse(std::string_view content) {
     IniFile file;
     std::string section;
     int number = 0;
+    // some editors put a byte-order mark in front when they save as UTF-8
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (content.substr(0, 3) == kByteOrderMark) content.remove_prefix(3);
     while (!content.empty()) {
         ++number;
         const auto end = content.find('\n');

@@ -45,9 +45,10 @@ Status IniSettingsFile::Save(const std::string& section, const std::string& key,
     if (Status read = Reload(); !read.Ok()) return read;
     IniFile changed = content_;
     changed.Set(section, key, value);
-    if (Status written = WriteWholeFile(files_, path_, changed.Text()); !written.Ok()) {
-        return written;
-    }
+    const std::string text = changed.Text();
+    // the next start would take it for a damaged file and set every setting aside
+    if (text.size() > kSizeLimit) return Error{EFBIG, "the settings file would grow too large"};
+    if (Status written = WriteWholeFile(files_, path_, text); !written.Ok()) return written;
     content_ = std::move(changed);
     return {};
 }

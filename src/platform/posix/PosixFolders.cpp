@@ -57,8 +57,10 @@ std::string XdgFolder(KnownFolder folder, const Environment& environment) {
             return BaseDirectory(environment, "XDG_CONFIG_HOME", "/.config");
         case KnownFolder::kState:
             return BaseDirectory(environment, "XDG_STATE_HOME", "/.local/state");
-        case KnownFolder::kLog:
-            return BaseDirectory(environment, "XDG_STATE_HOME", "/.local/state") + "/VEK";
+        case KnownFolder::kLog: {
+            const std::string state = XdgFolder(KnownFolder::kState, environment);
+            return state.empty() ? "" : state + "/VEK";
+        }
     }
     return "";
 }

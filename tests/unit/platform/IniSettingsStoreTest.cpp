@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "platform/IniSettingsStore.h"
+#include "platform/simulated/MemoryFiles.h"
+
+namespace brask {
+namespace {
+
+const std::string kPath = "/home/settings/VEK/Brask Lite.ini";
+
+struct TwoSections {
+    IniSettingsFile File;
+    IniSettingsStore Known{File, "Brask Lite"};
+    IniSettingsStore Own{File, "Window"};
+
+    explicit TwoSections(Files& disk) : File(disk, kPath) {}
+};
+
+TEST(IniSettingsStore, FirstSaveMakesDirectoryAndFile) {
+    MemoryFiles disk;
+    TwoSections store(disk);
+    EXPECT_EQ(store.Known.Get("GraphType", "0"), "0");
+    ASSERT_TRUE(store.Known.Save("GraphType", "2").Ok());
+    ASSERT_TRUE(store.Own.Save("GraphType", "own").Ok());
+    EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nGraphType=2\n[Window]\nGraphType=own\n");
+    EXPECT_EQ(TwoSections(disk).Known.Get("GraphType", "0"), "2");
+}
+
+TEST(IniSettingsStore, TwoRunningProgramsKeepEachOthersKeys) {
+    MemoryFiles disk;
+    TwoSections first(disk);
+    TwoSections second(disk);
+    ASSERT_TRUE(first.Known.Save("A", "1").Ok());
+    ASSERT_TRUE(second.Known.Save("B", "2").Ok());
+    ASSERT_TRUE(first.Known.Save("C", "3").Ok());
+    EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nA=1\nB=2\nC=3\n");
+    EXPECT_EQ(first.Known.Get("B", "-"), "2") << "seen once its own save has read the file";
+}
+
+TEST(IniSettingsStore, DamagedFileIsSetAsideAndReported) {
+    struct Case {
+        std::string Content;
+        std::string Damage;
+    };
+    const Case cases[] = {
+        {"[Brask Lite]\nnot a setting\n", "line 2 is no Key=Value line"},
+        {std::string("a=\0", 3), "line 1 holds a zero byte"},
+        {std::string(IniSettingsFile::kSizeLimit + 1, ';'), "the file is larger than expected"}};
+    for (const Case& test : cases) {
+        MemoryFiles disk;
+        disk.Contents[kPath] = test.Content;
+        TwoSections store(disk);
+        EXPECT_EQ(store.File.Damage(), test.Damage);
+        EXPECT_EQ(disk.Contents[kPath + ".bad"], test.Content);
+        EXPECT_FALSE(disk.Contents.contains(kPath));
+        EXPECT_EQ(store.Known.Get("GraphType", "0"), "0");
+        ASSERT_TRUE(store.Known.Save("GraphType", "1").Ok());
+        EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nGraphType=1\n");
+        EXPECT_EQ(disk.Contents[kPath + ".bad"], test.Content);
+    }
+}
+
+TEST(IniSettingsStore, UnreadableFileIsLeftAlone) {
+    MemoryFiles disk;
+    disk.Contents[kPath] = "[Brask Lite]\nA=1\n";
+    disk.FailAt = 0;
+    TwoSections store(disk);
+    EXPECT_EQ(store.File.Damage(), "Input/output error");
+    EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nA=1\n");
+}
+
+TEST(IniSettingsStore, FailureAtEveryOperationKeepsTheOldValue) {
+    const std::string before = "[Brask Lite]\nA=old\nB=1\n";
+    for (const bool forGood : {false, true}) {
+        bool saved = false;
+        int failed = 0;
+        for (int at = 0; !saved; ++at) {
+            MemoryFiles disk;
+            disk.Contents[kPath] = before;
+            TwoSections store(disk);
+            disk.Operations = 0;
+            disk.FailAt = at;
+            disk.FailForGood = forGood;
+            saved = store.Known.Save("A", "new").Ok();
+            EXPECT_EQ(store.Known.Get("A", "-"), saved ? "new" : "old") << at;
+            EXPECT_EQ(disk.Contents[kPath] == before, !saved) << at;
+            EXPECT_EQ(store.Known.Get("B", "-"), "1") << at;
+            failed += saved ? 0 : 1;
+        }
+        // directory, lock, open, two reads, replace, write, commit
+        EXPECT_EQ(failed, 8);
+    }
+}
+
+TEST(IniSettingsStore, AValueThatWouldDamageTheFileIsRefused) {
+    MemoryFiles disk;
+    TwoSections store(disk);
+    ASSERT_TRUE(store.Known.Save("A", "1").Ok());
+    const Status saved = store.Known.Save("B", std::string(IniSettingsFile::kSizeLimit, 'x'));
+    ASSERT_FALSE(saved.Ok());
+    EXPECT_EQ(saved.Why().Number, EFBIG);
+    EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nA=1\n");
+    EXPECT_EQ(TwoSections(disk).File.Damage(), "");
+}
+
+}  // namespace
+}  // namespace brask

@@ -1,0 +1,135 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/ProgramError.h"
+#include "platform/Texts.h"
+#include "platform/console/ConsoleUserInterface.h"
+#include "platform/simulated/ManualClock.h"
+#include "platform/simulated/ScriptedUserInterface.h"
+
+namespace brask {
+namespace {
+
+TEST(Texts, PlacesAreFilledInOnePass) {
+    struct Case {
+        const char* Wording;
+        std::vector<std::string_view> Arguments;
+        std::string Filled;
+    };
+    const Case cases[] = {{"%1 and %2", {"a", "b"}, "a and b"},
+                          {"%2%1%2", {"a", "b"}, "bab"},
+                          {"%1, %2", {"%2", "%1"}, "%2, %1"},
+                          {"%1 of %2", {"a"}, "a of %2"},
+                          {"100% %0 %x %", {"a"}, "100% %0 %x %"},
+                          {"%%1", {"a"}, "%a"},
+                          {"%10", {"a"}, "a0"}};
+    for (const Case& test : cases) {
+        const TextRow row("test", test.Wording);
+        const EnglishTexts texts;
+        const auto& given = test.Arguments;
+        EXPECT_EQ(
+            given.size() == 1 ? texts.Fill(row, {given[0]}) : texts.Fill(row, {given[0], given[1]}),
+            test.Filled);
+    }
+}
+
+TEST(ProgramError, RetryCancelAndOkAlone) {
+    struct Case {
+        ProgramError Error;
+        std::deque<bool> Answers;
+        std::string Text;
+        bool Result;
+        bool Ended;
+    };
+    const Case cases[] = {
+        {{"Load", "No", "", true},
+         {true},
+         "Error Description:No\r\n[Load]\r\n(Cancel Ends Program)",
+         true,
+         false},
+        {{"Load", "No", "Step 2", true},
+         {false},
+         "Error Description:No\r\n[Step 2]\r\n(Cancel Ends Program)",
+         false,
+         true},
+        {{"Load", "No", "Step 2", false}, {}, "Error Description:No\r\n[Step 2]", true, false}};
+    for (const Case& test : cases) {
+        ScriptedUserInterface user;
+        user.Answers = test.Answers;
+        EXPECT_EQ(ShowProgramError(user, EnglishTexts(), test.Error), test.Result);
+        EXPECT_EQ(user.Ended(), test.Ended);
+        ASSERT_EQ(user.Shown.size(), 1U);
+        EXPECT_EQ(user.Shown[0].Title, "Load Error");
+        EXPECT_EQ(user.Shown[0].Text, test.Text);
+        EXPECT_TRUE(user.Answers.empty()) << "a dialog without a choice asks nothing";
+    }
+}
+
+// What a console user interface wrote to its terminal.
+class Console {
+  public:
+    explicit Console(ConsoleOptions options) : User(out_, Time, options) {}
+    ~Console() { std::fclose(out_); }
+    Console(const Console&) = delete;
+    Console& operator=(const Console&) = delete;
+
+    std::string Written() {
+        std::string text(static_cast<std::size_t>(std::ftell(out_)), '\0');
+        std::rewind(out_);
+        text.resize(std::fread(text.data(), 1, text.size(), out_));
+        return text;
+    }
+
+  private:
+    std::FILE* out_ = std::tmpfile();
+
+  public:
+    ManualClock Time;
+    ConsoleUserInterface User;
+};
+
+TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
+    Console console({.Yes = false});
+    console.User.ShowMessage({"Title", "first\r\nsecond"});
+    EXPECT_FALSE(console.User.AskYesNo({"Title", "Sure?"}));
+    EXPECT_FALSE(console.User.AskRetry({"Title", "Again?"}));
+    EXPECT_TRUE(console.User.ShowRepeatedMessage({"Title", "one of many"}));
+    console.User.ShowNotice("only a notice");
+    EXPECT_EQ(console.Written(), "first\nsecond\nSure?\nAgain?\none of many\nonly a notice\n");
+    EXPECT_THAT(console.User.Messages(),
+                testing::ElementsAre("first\r\nsecond", "Sure?", "Again?", "one of many"));
+    EXPECT_TRUE(Console({.Yes = true}).User.AskYesNo({"Title", "Sure?"}));
+    EXPECT_TRUE(Console({.Yes = true}).User.AskRetry({"Title", "Again?"}));
+}
+
+TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
+    Console console({});
+    console.User.ShowMessage({"",
+                              "a\x1B]0;x\a\tb\x7F \xC2\x9B \xC2\xB0"
+                              "C"});
+    EXPECT_EQ(console.Written(),
+              "a?]0;x?\tb? \xC2? \xC2\xB0"
+              "C\n");
+}
+
+TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
+    Console console({.Progress = true});
+    console.User.BeginProgress(ProgressMode::kReadingFile);
+    console.User.SetProgressCount(100);
+    console.Time.Milliseconds = 250;
+    console.User.SetProgressCount(200);
+    console.User.SetProgressCount(300);
+    console.User.ShowMessage({"", "bad line"});
+    console.User.EndProgress();
+    EXPECT_EQ(console.Written(), "\r200 Results\r\033[Kbad line\n");
+
+    Console quiet({.Progress = false});
+    quiet.User.BeginProgress(ProgressMode::kReadingFile);
+    quiet.Time.Milliseconds = 10000;
+    quiet.User.SetProgressCount(100);
+    quiet.User.EndProgress();
+    EXPECT_EQ(quiet.Written(), "");
+}
+
+}  // namespace
+}  // namespace brask
