@@ -1,0 +1,65 @@
+#include "app/Commands.h"
+
+#include <exception>
+
+#include "app/AppTexts.h"
+#include "app/MenuTable.h"
+#include "app/ToolbarTable.h"
+#include "data/DataTexts.h"
+#include "platform/ProgramError.h"
+
+namespace brask {
+
+void Commands::Register(const std::string& name, std::function<void()> work) {
+    work_[name] = std::move(work);
+    changed_();
+}
+
+void Commands::Run(const std::string& name) {
+    if (!Enabled(name)) return;
+    // a copy: the work may register commands anew
+    const std::function<void()> work = work_.at(name);
+    try {
+        work();
+    } catch (const std::exception& error) {
+        SetBusy(false);
+        ShowProgramError(user_, texts_, {name, error.what(), "", true});
+    }
+}
+
+void Commands::ToolbarButtonClick(const std::string& key) {
+    if (const ToolbarRow* row = FindToolbarRow(key)) {
+        Run(row->Command);
+        return;
+    }
+    user_.ShowMessage({texts_.Find(data_texts::kProgramTitle),
+                       texts_.Fill(app_texts::kButtonNotImplemented, {key})});
+}
+
+bool Commands::Enabled(const std::string& name) const {
+    if (!Registered(name) || withheld_.contains(name)) return false;
+    if (busy_) return name == "mnuExit";
+    const MenuRow* row = FindMenuRow(name);
+    return hasReadings_ || row == nullptr || row->Need == CommandNeed::kNothing;
+}
+
+void Commands::SetHasReadings(bool hasReadings) {
+    hasReadings_ = hasReadings;
+    changed_();
+}
+
+void Commands::SetBusy(bool busy) {
+    busy_ = busy;
+    changed_();
+}
+
+void Commands::SetAllowed(const std::string& name, bool allowed) {
+    if (allowed) {
+        withheld_.erase(name);
+    } else {
+        withheld_.insert(name);
+    }
+    changed_();
+}
+
+}  // namespace brask

@@ -1,0 +1,79 @@
+#include "app/Document.h"
+
+#include "app/AppTexts.h"
+#include "data/DataTexts.h"
+#include "data/DateTime.h"
+#include "data/Windows1252.h"
+
+namespace brask {
+
+using namespace app_texts;
+
+Document::Document(const System& system, const Session& session, const Plotting& plotting,
+                   Commands& commands)
+    : system_(system),
+      session_(session),
+      plotting_(plotting),
+      commands_(commands),
+      recent_(session.Options) {}
+
+std::string Document::StartCaption() const {
+    return system_.Words.Fill(kCaptionNoData, {system_.Words.Find(data_texts::kProgramTitle)});
+}
+
+void Document::Open(const std::string& path, DataSource source) {
+    if (commands_.Busy()) return;
+    commands_.SetBusy(true);
+    session_.Data.Source = source;
+    session_.Data.CurrentDataFile = system_.Disk.Absolute(path);
+    // the curves look into the arrays that the load re-creates while events run
+    plotting_.Plot.Clear();
+    view_->ShowChart();
+    const std::string title = system_.Words.Find(data_texts::kProgramTitle);
+    view_->ShowCaption(title);
+
+    const LoadOutcome outcome =
+        session_.Loader.LoadDataFile({session_.DateOrder, session_.Unit});
+    commands_.SetBusy(false);
+    commands_.SetHasReadings(session_.Data.ReadingCount > 0);
+    if (system_.User.Ended()) return;
+    if (outcome == LoadOutcome::kRead) {
+        recent_.Add(session_.Data.CurrentDataFile);
+        plotting_.Builder.Rebuild(ReadPlotOptions(session_.Options, session_.Unit));
+        view_->ShowCaption(system_.Words.Fill(
+            kCaptionFile, {title, BaseName(system_.Disk, session_.Data.CurrentDataFile)}));
+    }
+    view_->ShowChart();
+    view_->ShowReadings();
+}
+
+void Document::RebuildPlot() {
+    if (commands_.Busy()) return;
+    plotting_.Builder.Rebuild(ReadPlotOptions(session_.Options, session_.Unit));
+    view_->ShowChart();
+}
+
+void Document::SetTemperatureUnit(bool fahrenheit) {
+    session_.Options.Save("DisplayTemperatureUnits", fahrenheit ? "1" : "0");
+    session_.Unit.SwitchTo(fahrenheit, session_.Data);
+    if (session_.Data.ReadingCount > 0) RebuildPlot();
+    view_->ShowReadings();
+}
+
+void Document::SetGraphType(GraphType type) {
+    session_.Options.Save("GraphType", std::to_string(static_cast<int>(type)));
+    if (session_.Data.ReadingCount > 0) RebuildPlot();
+}
+
+std::string Document::HeadersText() const {
+    const DataSet& data = session_.Data;
+    if (data.ReadingCount == 0) return "";
+    return system_.Words.Fill(
+        kHeaders,
+        {data.CurrentDataFile, Windows1252ToUtf8(data.InstrumentName),
+         Windows1252ToUtf8(data.InstrumentSerialNumber), Windows1252ToUtf8(data.InstrumentDate),
+         Windows1252ToUtf8(data.InstrumentGas), FormatReadingTime(data.Times().front()),
+         FormatReadingTime(data.Times().back()), std::to_string(data.ReadingCount)});
+}
+
+}  // namespace brask

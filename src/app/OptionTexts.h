@@ -1,0 +1,86 @@
+// Captions of the two option pages.
+#pragma once
+
+#include "platform/Texts.h"
+
+namespace brask::option_texts {
+
+inline constexpr auto kGraphType = TextRow("options", "Graph Type");
+inline constexpr auto kContinuousGraph = TextRow("options", "Continuous Graph");
+inline constexpr auto kOverlapDays = TextRow("options", "Overlap Days");
+inline constexpr auto kOverlapWeeks = TextRow("options", "Overlap Weeks");
+
+inline constexpr auto kDisplayPeriod = TextRow("options", "Display Period");
+inline constexpr auto kDisplayAllData = TextRow("options", "Display All Data");
+inline constexpr auto kDisplayDates = TextRow("options", "Display Dates from");
+inline constexpr auto kDisplayTimes = TextRow("options", "Display Times from");
+inline constexpr auto kDisplayDays = TextRow("options", "Display Days from");
+inline constexpr auto kTo = TextRow("options", "to");
+inline constexpr auto kSetDisplayPeriod = TextRow("options", "Set Display Period");
+
+inline constexpr auto kWeekStartsOn = TextRow("options", "Week Starts On");
+
+inline constexpr auto kTemperature = TextRow("options", "Temperature");
+inline constexpr auto kFahrenheit = TextRow("options", "Farenheit (°F)");
+inline constexpr auto kCelsius = TextRow("options", "Celsius (°C)");
+
+inline constexpr auto kCursor = TextRow("options", "Selected Point Cursor");
+inline constexpr auto kCursorLines = TextRow("options", "Horizontal && Vertical Lines");
+inline constexpr auto kCursorSquare = TextRow("options", "Square");
+inline constexpr auto kCursorVertical = TextRow("options", "Vertical Line");
+inline constexpr auto kCursorHorizontal = TextRow("options", "Horizontal Line");
+inline constexpr auto kCursorCircle = TextRow("options", "Circle");
+inline constexpr auto kCursorDiamond = TextRow("options", "Diamond");
+inline constexpr auto kCursorBox = TextRow("options", "Filled Box");
+
+inline constexpr auto kUpperLimits = TextRow("options", "Upper Limits");
+inline constexpr auto kDisplayUpperLimits = TextRow("options", "Display Upper Limits");
+inline constexpr auto kMarkWide = TextRow("options", "Mark Out of Limit Points with Wide Line");
+inline constexpr auto kSetUpperLimit = TextRow("options", "SetUpperLimit");
+
+inline constexpr auto kDrawing = TextRow("options", "Drawing and Printing");
+inline constexpr auto kMarkPoints = TextRow("options", "Mark Data Points on Graph");
+inline constexpr auto kScaleOnZoom = TextRow("options", "Scale Y Axis when zooming");
+inline constexpr auto kScalePrint =
+    TextRow("options", "Scale Graph To Fit Paper Size When Printed");
+
+inline constexpr auto kGraphColors = TextRow("options", "Graph Colors");
+inline constexpr auto kAxesBackground = TextRow("options", "Axes Background");
+inline constexpr auto kGraphBackground = TextRow("options", "Graph Background");
+inline constexpr auto kTitle = TextRow("options", "Title");
+inline constexpr auto kAxesLabels = TextRow("options", "X/Y Axes Labels");
+inline constexpr auto kLineColorsForLabels =
+    TextRow("options", "Use Graph Line Colors for Labels");
+inline constexpr auto kRestoreColors = TextRow("options", "Restore to Default");
+
+inline constexpr auto kLineColors = TextRow("options", "Graph Line Color Sequence");
+inline constexpr auto kColumnLine = TextRow("options", "Line");
+inline constexpr auto kColumnRgb = TextRow("options", "R-G-B");
+inline constexpr auto kColumnSample = TextRow("options", "Sample Color");
+inline constexpr auto kInsertBefore = TextRow("options", "Insert Before Color %1");
+inline constexpr auto kInsertAfter = TextRow("options", "Insert After Color %1");
+inline constexpr auto kChangeColor = TextRow("options", "Change Color %1");
+inline constexpr auto kCopyColor = TextRow("options", "Copy Color %1 to ClipBoard");
+inline constexpr auto kDeleteColor = TextRow("options", "Delete Color %1");
+inline constexpr auto kClipboard = TextRow("options", "Clipboard");
+inline constexpr auto kClipboardColor = TextRow("options", "Color %1");
+inline constexpr auto kRestoreLineColors = TextRow("options", "Restore Line Colors to Default");
+
+inline constexpr auto kProgram = TextRow("options", "Program");
+inline constexpr auto kOpenMaximized =
+    TextRow("options", "Open Program With Maximized Window");
+inline constexpr auto kNotifyNewFiles =
+    TextRow("options", "Display Message As Data Files Are Saved");
+inline constexpr auto kAutoDelete =
+    TextRow("options", "Delete Data From Talvex K42 If Data Is Received With No Errors");
+inline constexpr auto kDataDirectory = TextRow("options", "Data Directory");
+inline constexpr auto kUserDirectory = TextRow("options", "Use User Directory");
+inline constexpr auto kSystemDirectory = TextRow("options", "Use System Directory");
+inline constexpr auto kBrowse = TextRow("options", "Browse");
+inline constexpr auto kDataAccess = TextRow("options", "Data Access");
+inline constexpr auto kAllUsers = TextRow("options", "All Users (%1)");
+inline constexpr auto kOneUser = TextRow("options", "User %1 (%2)");
+inline constexpr auto kInstrumentLink = TextRow("options", "Instrument Link");
+inline constexpr auto kHandheld = TextRow("options", "Handheld");
+
+}  // namespace brask::option_texts

@@ -1,0 +1,28 @@
+#include "app/ProgramPaths.h"
+
+#include <algorithm>
+
+namespace brask {
+
+std::string HelpFilePath(const std::string& programDirectory, char separator) {
+    std::string lower = programDirectory;
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    const std::string slash(1, separator);
+    const bool installed = lower.find("talvex k42 pc") != std::string::npos;
+    const std::string folder =
+        installed ? slash + "HtmlHelp" + slash + "brasklite" + slash + "htmlhelp" : "";
+    return programDirectory + folder + slash + "BraskLite.chm";
+}
+
+std::string ConnectionText(const std::string& programDirectory, char separator) {
+    return "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + programDirectory + separator +
+           "BraskLite.mdb;Mode=ReadWrite|Share Deny None;Persist Security Info=False";
+}
+
+bool SyncSoftwareInstalled(const Files& files) {
+    return files.IsDirectory("c:\\program files\\Microsoft activesync");
+}
+
+}  // namespace brask

@@ -1,0 +1,246 @@
+#include "app/ui/GraphOptionsPage.h"
+
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "app/OptionTexts.h"
+#include "platform/qt/QtText.h"
+
+namespace brask {
+
+using namespace option_texts;
+
+namespace {
+
+QColor ToQtColor(ColorValue color) { return {color.Red(), color.Green(), color.Blue()}; }
+
+}  // namespace
+
+GraphOptionsPage::GraphOptionsPage(const Texts& texts, const UserLocale& locale, QWidget* parent)
+    : QScrollArea(parent),
+      texts_(texts),
+      frameGraphOptions(new QWidget(this)),
+      controls_(texts, frameGraphOptions) {
+    frameGraphOptions->setObjectName(QStringLiteral("frameGraphOptions"));
+    auto* colors = new QWidget(frameGraphOptions);
+    auto* colorColumn = new QVBoxLayout(colors);
+    colorColumn->setContentsMargins(0, 0, 0, 0);
+    colorColumn->addWidget(BuildGraphColors());
+    colorColumn->addWidget(BuildLineColors(), 1);
+
+    auto* columns = new QHBoxLayout(frameGraphOptions);
+    columns->addWidget(BuildLayoutColumn(locale), 3);
+    columns->addWidget(BuildDrawingColumn(), 3);
+    columns->addWidget(colors, 4);
+    setWidget(frameGraphOptions);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+}
+
+QWidget* GraphOptionsPage::BuildLayoutColumn(const UserLocale& locale) {
+    QGroupBox* const type = controls_.Frame(kGraphType);
+    optGraph = controls_.Options("optGraph", type, {kContinuousGraph, kOverlapDays, kOverlapWeeks},
+                                 Available::kYes);
+    connect(optGraph, &QButtonGroup::idClicked, this, &GraphOptionsPage::GraphTypeChosen);
+
+    QGroupBox* const week = controls_.Frame(kWeekStartsOn);
+    optStartWeek = new QButtonGroup(this);
+    optStartWeek->setObjectName(QStringLiteral("optStartWeek"));
+    for (int day = 0; day < 2; ++day) {
+        const QString name = ToQt(locale.DayNames()[static_cast<std::size_t>(day)]);
+        QRadioButton* const button = controls_.Option(optStartWeek, day, name);
+        button->setEnabled(false);
+        week->layout()->addWidget(button);
+    }
+
+    QGroupBox* const temperature = controls_.Frame(kTemperature);
+    optTemperatureDisplay = controls_.Options("optTemperatureDisplay", temperature,
+                                              {kFahrenheit, kCelsius}, Available::kYes);
+    connect(optTemperatureDisplay, &QButtonGroup::idClicked, this,
+            [this](int index) { emit TemperatureUnitChosen(index == 0); });
+
+    auto* column = new QWidget(frameGraphOptions);
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QGroupBox* frame : {type, BuildPeriodFrame(locale), week, temperature}) {
+        layout->addWidget(frame);
+    }
+    layout->addStretch();
+    return column;
+}
+
+QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
+    QGroupBox* const frame = controls_.Frame(kDisplayPeriod);
+    optPeriodDisplay =
+        controls_.Options("optPeriodDisplay", frame,
+                          {kDisplayAllData, kDisplayDates, kDisplayTimes, kDisplayDays},
+                          Available::kLater);
+    optPeriodDisplay->button(0)->setChecked(true);
+    const auto text = [frame](const char* name) {
+        auto* box = new QLineEdit(frame);
+        box->setObjectName(QString::fromLatin1(name));
+        box->setEnabled(false);
+        return box;
+    };
+    const auto days = [frame, &locale](const char* name) {
+        auto* list = new QComboBox(frame);
+        list->setObjectName(QString::fromLatin1(name));
+        for (const std::string& day : locale.DayNames()) list->addItem(ToQt(day));
+        list->setEnabled(false);
+        return list;
+    };
+    txtStartUserDisplayPeriod = text("txtStartUserDisplayPeriod");
+    txtEndUserDisplayPeriod = text("txtEndUserDisplayPeriod");
+    txtStartUserDisplayTime = text("txtStartUserDisplayTime");
+    txtEndUserDisplayTime = text("txtEndUserDisplayTime");
+    cmbDisplayDayStart = days("cmbDisplayDayStart");
+    cmbDisplayDayEnd = days("cmbDisplayDayEnd");
+
+    // each option has its two boxes in the row below it
+    QWidget* const boxes[][2] = {{txtStartUserDisplayPeriod, txtEndUserDisplayPeriod},
+                                 {txtStartUserDisplayTime, txtEndUserDisplayTime},
+                                 {cmbDisplayDayStart, cmbDisplayDayEnd}};
+    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
+    for (int option = 1; option <= 3; ++option) {
+        auto* row = new QHBoxLayout;
+        row->setContentsMargins(20, 0, 0, 0);
+        row->addWidget(boxes[option - 1][0], 1);
+        row->addWidget(new QLabel(ToQt(texts_, kTo), frame));
+        row->addWidget(boxes[option - 1][1], 1);
+        layout->insertLayout(2 * option, row);
+    }
+    auto* lblPeriod = new QLabel(frame);
+    lblPeriod->setObjectName(QStringLiteral("lblPeriod"));
+    layout->addWidget(lblPeriod);
+    layout->addWidget(controls_.Button("cmdSetDisplayPeriod", kSetDisplayPeriod));
+    return frame;
+}
+
+QWidget* GraphOptionsPage::BuildDrawingColumn() {
+    QGroupBox* const cursor = controls_.Frame(kCursor);
+    optCursorType = controls_.Options("optCursorType", cursor,
+                                      {kCursorLines, kCursorSquare, kCursorVertical,
+                                       kCursorHorizontal, kCursorCircle, kCursorDiamond,
+                                       kCursorBox},
+                                      Available::kLater);
+
+    QGroupBox* const limits = controls_.Frame(kUpperLimits);
+    chkDisplayUpperLimits = controls_.CheckBox("chkDisplayUpperLimits", kDisplayUpperLimits);
+    chkMarkLimitsWiderLine = controls_.CheckBox("chkMarkLimitsWiderLine", kMarkWide);
+    limits->layout()->addWidget(chkDisplayUpperLimits);
+    limits->layout()->addWidget(chkMarkLimitsWiderLine);
+    limits->layout()->addWidget(controls_.Button("cmdSetUpperLimit", kSetUpperLimit));
+
+    QGroupBox* const drawing = controls_.Frame(kDrawing);
+    chkFlagDataPoints = controls_.CheckBox("chkFlagDataPoints", kMarkPoints);
+    chkChangeYScales = controls_.CheckBox("chkChangeYScales", kScaleOnZoom);
+    chkScaleGraph = controls_.CheckBox("chkScaleGraph", kScalePrint);
+    for (QCheckBox* box : {chkFlagDataPoints, chkChangeYScales, chkScaleGraph}) {
+        drawing->layout()->addWidget(box);
+    }
+
+    auto* column = new QWidget(frameGraphOptions);
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QGroupBox* frame : {cursor, limits, drawing}) layout->addWidget(frame);
+    layout->addStretch();
+    return column;
+}
+
+QGroupBox* GraphOptionsPage::BuildGraphColors() {
+    QGroupBox* const frame = controls_.Frame(kGraphColors);
+    auto* grid = new QGridLayout;
+    const struct {
+        TextRow Label;
+        const char* Name;
+    } rows[] = {{kAxesBackground, "cmdAxesColor"},
+                {kGraphBackground, "cmdGraphBackground"},
+                {kTitle, "cmdTitleColor"},
+                {kAxesLabels, "cmdXYAxes"}};
+    int line = 0;
+    for (const auto& row : rows) {
+        QPushButton* const button = controls_.Button(row.Name, QString());
+        button->setAccessibleName(ToQt(texts_, row.Label));
+        button->setFixedWidth(72);
+        grid->addWidget(new QLabel(ToQt(texts_, row.Label), frame), line, 0);
+        grid->addWidget(button, line++, 1);
+    }
+    grid->setColumnStretch(2, 1);
+    chkXYLabelColors = controls_.CheckBox("chkXYLabelColors", kLineColorsForLabels);
+    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
+    layout->addLayout(grid);
+    layout->addWidget(chkXYLabelColors);
+    layout->addWidget(controls_.Button("cmdRestoreColorsToDefault", kRestoreColors));
+    return frame;
+}
+
+QGroupBox* GraphOptionsPage::BuildLineColors() {
+    QGroupBox* const frame = controls_.Frame(kLineColors);
+    MSFlexGridColors = new QTableWidget(0, 3, frame);
+    MSFlexGridColors->setObjectName(QStringLiteral("MSFlexGridColors"));
+    MSFlexGridColors->setAccessibleName(ToQt(texts_, kLineColors));
+    MSFlexGridColors->setHorizontalHeaderLabels(
+        {ToQt(texts_, kColumnLine), ToQt(texts_, kColumnRgb), ToQt(texts_, kColumnSample)});
+    MSFlexGridColors->verticalHeader()->hide();
+    MSFlexGridColors->horizontalHeader()->setStretchLastSection(true);
+    MSFlexGridColors->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    MSFlexGridColors->setSelectionMode(QAbstractItemView::NoSelection);
+    MSFlexGridColors->setColumnWidth(0, 56);
+    MSFlexGridColors->setColumnWidth(1, 90);
+    MSFlexGridColors->setMinimumHeight(150);
+
+    auto* buttons = new QVBoxLayout;
+    const std::pair<const char*, TextRow> edits[] = {{"cmdInsertBefore", kInsertBefore},
+                                                     {"cmdInsertAfter", kInsertAfter},
+                                                     {"cmdChangeColor", kChangeColor},
+                                                     {"cmdCopyColor", kCopyColor},
+                                                     {"cmdDeleteColor", kDeleteColor}};
+    for (const auto& edit : edits) {
+        buttons->addWidget(controls_.Button(edit.first, ToQt(texts_.Fill(edit.second, {"1"}))));
+    }
+    buttons->addWidget(controls_.Button("cmdRestoreLineColors", kRestoreLineColors));
+    buttons->addStretch();
+    auto* row = new QHBoxLayout;
+    row->addWidget(MSFlexGridColors, 1);
+    row->addLayout(buttons);
+    static_cast<QVBoxLayout*>(frame->layout())->addLayout(row);
+    return frame;
+}
+
+void GraphOptionsPage::ShowOptions(const ProgramOptions& options) {
+    txtStartUserDisplayTime->setText(ToQt(options.DisplayTimeFrom));
+    txtEndUserDisplayTime->setText(ToQt(options.DisplayTimeTo));
+    ChooseOption(optTemperatureDisplay, options.Fahrenheit ? 0 : 1);
+    ChooseOption(optGraph, options.GraphType);
+    ChooseOption(optStartWeek, options.StartWeekOn);
+    cmbDisplayDayStart->setCurrentIndex(options.StartViewDayOn);
+    cmbDisplayDayEnd->setCurrentIndex(6);
+    chkFlagDataPoints->setChecked(options.UseDataMarkers);
+    chkChangeYScales->setChecked(options.ScaleYAxisOnZoom);
+    chkXYLabelColors->setChecked(options.UseLblColors);
+    ChooseOption(optCursorType, options.CursorType);
+    chkScaleGraph->setChecked(options.ScalePrint);
+    chkDisplayUpperLimits->setChecked(options.UseToleranceCurve);
+    chkMarkLimitsWiderLine->setChecked(options.MarkOutOfToleranceInRed);
+}
+
+void GraphOptionsPage::ShowColors(const PlotColors& colors) {
+    MSFlexGridColors->setRowCount(colors.Count());
+    for (int row = 0; row < colors.Count(); ++row) {
+        const ColorValue color = colors.CurveColor(row + 1);
+        auto* sample = new QTableWidgetItem;
+        sample->setBackground(ToQtColor(color));
+        MSFlexGridColors->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
+        MSFlexGridColors->setItem(row, 1, new QTableWidgetItem(ToQt(ColorToRgbText(color))));
+        MSFlexGridColors->setItem(row, 2, sample);
+    }
+}
+
+void GraphOptionsPage::ShowPeriod(const QString& start, const QString& end) {
+    txtStartUserDisplayPeriod->setText(start);
+    txtEndUserDisplayPeriod->setText(end);
+}
+
+}  // namespace brask

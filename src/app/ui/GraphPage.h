@@ -1,0 +1,57 @@
+// The first tab: the plot with what belongs to it, or, without readings, what to do first.
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QStringList>
+#include <QVBoxLayout>
+#include <functional>
+
+#include "app/Commands.h"
+#include "platform/Texts.h"
+#include "platform/UserLocale.h"
+#include "plot/Chart.h"
+#include "plot/ui/DynaPlot.h"
+
+namespace brask {
+
+class GraphPage final : public QStackedWidget {
+  public:
+    GraphPage(const Chart& chart, const UserLocale& locale, const Texts& texts,
+              Commands& commands, QWidget* parent);
+
+    // With data the plot, without it the advice.
+    void ShowPlotFrame(bool hasReadings);
+    // Draws the chart as it is now.
+    void ShowChart() { DynaPlot1->ShowChart(); }
+    // Gives the large buttons the state of their commands.
+    void SyncEnabled();
+    // Lists files to open with one click; `open` is told which.
+    void ShowRecentFiles(const QStringList& paths, const std::function<void(QString)>& open);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QWidget* BuildAdvice();
+    QWidget* BuildPlot(const Chart& chart, const UserLocale& locale);
+    QPushButton* LargeButton(const char* name, const char* key);
+    void DrawIcons();
+
+    const Texts& texts_;
+    Commands& commands_;
+    QWidget* frameCommandEnabled;
+    QList<QPushButton*> largeButtons_;
+    QLabel* lblRecent;
+    QVBoxLayout* recentList_;
+    DynaPlot* DynaPlot1 = nullptr;
+    QScrollBar* Scroll1 = nullptr;
+    QLineEdit* txtFindPoint = nullptr;
+    QPushButton* cmdFindPoint = nullptr;
+    QWidget* frameGraph;
+};
+
+}  // namespace brask

@@ -1,0 +1,56 @@
+#include "app/ui/StatusBar.h"
+
+#include "app/AppTexts.h"
+#include "data/DateTime.h"
+#include "platform/qt/QtText.h"
+
+namespace brask {
+namespace {
+
+QLabel* NamedLabel(const char* name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(6, 0, 6, 0);
+    return label;
+}
+
+}  // namespace
+
+StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
+    : QStatusBar(parent),
+      texts_(texts),
+      clock_(clock),
+      lblStatusFile(NamedLabel("lblStatusFile", this)),
+      lblStatusCounts(NamedLabel("lblStatusCounts", this)),
+      lblStatusTime(NamedLabel("lblStatusTime", this)),
+      TimerOneSecond(new QTimer(this)) {
+    setObjectName(QStringLiteral("StatusBar1"));
+    addPermanentWidget(lblStatusFile);
+    addPermanentWidget(lblStatusCounts);
+    addPermanentWidget(lblStatusTime);
+    TimerOneSecond->setObjectName(QStringLiteral("TimerOneSecond"));
+    connect(TimerOneSecond, &QTimer::timeout, this, [this] { ShowTime(); });
+    TimerOneSecond->start(1000);
+    ShowTime();
+}
+
+void StatusBar::ShowData(const DataSet& data, const QString& fileName,
+                         std::int64_t rejectedLines) {
+    const bool any = data.ReadingCount > 0;
+    lblStatusFile->setText(any ? fileName : QString());
+    const std::string count = std::to_string(data.ReadingCount);
+    const std::string text =
+        rejectedLines == 0
+            ? texts_.Fill(app_texts::kStatusReadings, {count})
+            : texts_.Fill(app_texts::kStatusRejected, {count, std::to_string(rejectedLines)});
+    lblStatusCounts->setText(any || rejectedLines > 0 ? ToQt(text) : QString());
+}
+
+void StatusBar::ShowNotice(const QString& text) { showMessage(text); }
+
+void StatusBar::ShowTime() {
+    lblStatusTime->setText(ToQt(FormatReadingTime(clock_.Now()).substr(0, 17)));
+}
+
+}  // namespace brask

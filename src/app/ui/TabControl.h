@@ -1,0 +1,19 @@
+// The tab control `SSTab1`. A click on a disabled tab is told to the owner, who knows why it is
+// disabled.
+#pragma once
+
+#include <QTabWidget>
+
+namespace brask {
+
+class TabControl final : public QTabWidget {
+    Q_OBJECT
+
+  public:
+    explicit TabControl(QWidget* parent);
+
+  signals:
+    void DisabledTabClicked(int index);
+};
+
+}  // namespace brask

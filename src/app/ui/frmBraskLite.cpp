@@ -1,0 +1,253 @@
+#include "app/ui/frmBraskLite.h"
+
+#include <QCloseEvent>
+#include <QMimeData>
+#include <QTimer>
+
+#include "app/AppTexts.h"
+#include "app/ProgramPaths.h"
+#include "app/ui/IconStore.h"
+#include "data/DataTexts.h"
+#include "data/DateTime.h"
+#include "data/WindowsVersion.h"
+#include "platform/qt/QtText.h"
+
+namespace brask {
+
+using namespace app_texts;
+
+namespace {
+
+// The one local file that a drag carries; empty for anything else.
+QString DraggedFile(const QMimeData* data) {
+    const QList<QUrl> urls = data->urls();
+    return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
+}  // namespace
+
+frmBraskLite::frmBraskLite(const System& system, const Session& session,
+                           const Plotting& plotting, Choosers& choosers)
+    : system_(system),
+      session_(session),
+      plotting_(plotting),
+      commands_(system.User, system.Words),
+      document_(system, session, plotting, commands_),
+      recent_(session.Options) {
+    setObjectName(QStringLiteral("frmBraskLite"));
+    setWindowIcon(ProgramIcon());
+    setAcceptDrops(true);
+    resize(1100, 740);
+    document_.SetView(*this);
+    files_ = std::make_unique<FileCommands>(
+        system_,
+        FileCommandParts{document_, commands_, recent_, session_.Directories, choosers}, *this);
+    RegisterCommands();
+    menus_ = std::make_unique<MenuBar>(*menuBar(), system_.Words, commands_);
+    BuildPages();
+}
+
+void frmBraskLite::BuildPages() {
+    const Texts& texts = system_.Words;
+    Toolbar1 = new Toolbar(texts, commands_, *menus_, this);
+    addToolBar(Toolbar1);
+    SSTab1 = new TabControl(this);
+    graphPage_ = new GraphPage(plotting_.Plot, system_.Locale, texts, commands_, SSTab1);
+    dataPage_ = new DataPage(session_.Data, session_.Unit, texts, SSTab1);
+    graphOptions_ = new GraphOptionsPage(texts, system_.Locale, SSTab1);
+    programOptions_ = new ProgramOptionsPage(texts, SSTab1);
+    SSTab1->addTab(graphPage_, ToQt(texts, kTabGraph));
+    SSTab1->addTab(dataPage_, ToQt(texts, kTabData));
+    SSTab1->addTab(graphOptions_, ToQt(texts, kTabGraphOptions));
+    SSTab1->addTab(programOptions_, ToQt(texts, kTabProgramOptions));
+    setCentralWidget(SSTab1);
+    statusBar_ = new StatusBar(texts, system_.Time, this);
+    setStatusBar(statusBar_);
+    frmBuildingGraph_ = new frmBuildingGraph(texts, this);
+
+    connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { SSTab1_Click(tab); });
+    connect(SSTab1, &TabControl::DisabledTabClicked, this, [this](int tab) { SSTab1_Click(tab); });
+    connect(graphOptions_, &GraphOptionsPage::GraphTypeChosen, this,
+            [this](int index) { optGraph_Click(index); });
+    connect(graphOptions_, &GraphOptionsPage::TemperatureUnitChosen, this,
+            [this](bool fahrenheit) { optTemperatureDisplay_Click(fahrenheit); });
+}
+
+void frmBraskLite::RegisterCommands() {
+    commands_.Register("mnuFileViewData", [this] { SSTab1->setCurrentIndex(kDataTab); });
+    commands_.Register("mnuGraphOptions", [this] { SSTab1->setCurrentIndex(kGraphOptionsTab); });
+    commands_.Register("mnuProgramOptions",
+                       [this] { SSTab1->setCurrentIndex(kProgramOptionsTab); });
+    for (int type = 0; type < 3; ++type) {
+        commands_.Register("mnuGraphType_" + std::to_string(type),
+                           [this, type] { optGraph_Click(type); });
+    }
+    commands_.Register("mnuRefresh", [this] { document_.RebuildPlot(); });
+    commands_.Register("mnuExit", [this] { close(); });
+}
+
+void frmBraskLite::FormLoad() {
+    ShowCaption(document_.StartCaption());
+    const std::string programDirectory = system_.Information.ProgramDirectory();
+    connectionText_ = ConnectionText(programDirectory, system_.Disk.Separator());
+    windowsKind_ = CheckWindowsVersion(system_.Information, system_.User, system_.Words,
+                                       session_.Options);
+    LoadOptions();
+    session_.Directories.ResolveDataDirectories(session_.Options, windowsKind_);
+    Toolbar1->BuildToolbar();
+    PlotColors::Initialise(session_.Options);
+    PlotColors colors;
+    colors.Load(session_.Options);
+    graphOptions_->ShowColors(colors);
+    helpFile_ = HelpFilePath(programDirectory, system_.Disk.Separator());
+    SSTab1->setCurrentIndex(kGraphTab);
+    CheckSyncSoftware();
+    Toolbar1->SyncToolbarButton("PocketPC");
+    ShowRecentFiles();
+    commands_.OnChange([this] { UpdateDataCommands(); });
+    UpdateDataCommands();
+    SSTab1_Click(kGraphTab);
+    opensMaximized_ = session_.Options.IsYes("OpenFormFullScreen");
+    programOptions_->ShowMaximized(opensMaximized_);
+}
+
+void frmBraskLite::LoadOptions() {
+    const Settings::LoadingGuard guard(session_.Options);
+    const bool fahrenheitInForce = session_.Unit.Fahrenheit();
+    ProgramOptions options =
+        LoadProgramOptions(session_.Options, system_.User, system_.Words);
+    // the unit may be another one than the stored for this run
+    options.Fahrenheit = fahrenheitInForce;
+    graphOptions_->ShowOptions(options);
+    ShowDirectories(options);
+    programOptions_->ShowAddresses(ToQt(session_.Options.Get("InstrumentAddress")),
+                                   ToQt(session_.Options.Get("HandheldAddress")));
+    menus_->SetChecked("mnuGraphType_" + QString::number(options.GraphType), true);
+    menus_->SetChecked(QStringLiteral("mnuMarkDataPoints"), options.UseDataMarkers);
+    menus_->SetChecked(QStringLiteral("mnuUseToleranceCurves"), options.UseToleranceCurve);
+    menus_->SetChecked(QStringLiteral("mnuMarkOutOfToleranceInRed"),
+                       options.MarkOutOfToleranceInRed);
+}
+
+void frmBraskLite::ShowDirectories(const ProgramOptions& options) {
+    DirectoryOptions shown;
+    const std::string base = session_.Directories.SystemBase(session_.Options, windowsKind_);
+    shown.CurrentPath = ToQt(options.UserSpecDir.empty() ? base : options.UserSpecDir);
+    shown.DataAccessChoice = windowsKind_ == WindowsKind::kNt5;
+    shown.SharedDirectory = ToQt(system_.Disk.Folder(KnownFolder::kSharedDocuments));
+    shown.UserDirectory = ToQt(system_.Disk.Folder(KnownFolder::kUserDocuments));
+    shown.UserName = ToQt(system_.Information.UserName());
+    programOptions_->ShowOptions(options, shown);
+}
+
+// Once the software is found its absence need not be warned of any more, should it come back.
+void frmBraskLite::CheckSyncSoftware() {
+    if (SyncSoftwareInstalled(system_.Disk)) session_.Options.Save("NeverWarn", "NO");
+}
+
+void frmBraskLite::ShowCaption(const std::string& caption) { setWindowTitle(ToQt(caption)); }
+
+void frmBraskLite::ShowChart() {
+    if (plotting_.Plot.Curves().empty()) dataPage_->LetGo();
+    graphPage_->ShowChart();
+    if (session_.Data.ReadingCount == 0 ||
+        session_.Options.Index("GraphType", 3) != static_cast<int>(GraphType::kContinuous)) {
+        return;
+    }
+    const AxisRange& range = plotting_.Plot.X.Range();
+    graphOptions_->ShowPeriod(ToQt(FormatReadingTime(range.Minimum)),
+                              ToQt(FormatReadingTime(range.Maximum)));
+}
+
+void frmBraskLite::ShowReadings() {
+    dataPage_->MarkStale();
+    graphPage_->ShowPlotFrame(session_.Data.ReadingCount > 0);
+    statusBar_->ShowData(session_.Data,
+                         ToQt(BaseName(system_.Disk, session_.Data.CurrentDataFile)),
+                         document_.RejectedLines());
+    ShowRecentFiles();
+    if (session_.Data.ReadingCount == 0 && SSTab1->currentIndex() == kDataTab) {
+        SSTab1->setCurrentIndex(kGraphTab);
+    }
+}
+
+void frmBraskLite::SSTab1_Click(int tab) {
+    if (tab == kDataTab && session_.Data.ReadingCount == 0) {
+        SSTab1->setCurrentIndex(previousTab_);
+        if (commands_.Busy()) return;
+        system_.User.ShowMessage(
+            {system_.Words.Find(data_texts::kProgramTitle), system_.Words.Find(kNoDataYet)});
+        return;
+    }
+    previousTab_ = tab;
+    if (tab == kDataTab) dataPage_->Visit();
+    if (tab == kGraphTab) graphPage_->ShowPlotFrame(session_.Data.ReadingCount > 0);
+}
+
+void frmBraskLite::optGraph_Click(int index) {
+    if (session_.Options.Loading()) return;
+    graphOptions_->ShowGraphType(index);
+    menus_->SetChecked("mnuGraphType_" + QString::number(index), true);
+    document_.SetGraphType(static_cast<GraphType>(index));
+}
+
+void frmBraskLite::optTemperatureDisplay_Click(bool fahrenheit) {
+    // a click on the button that is chosen already would convert what is converted
+    if (session_.Options.Loading() || fahrenheit == session_.Unit.Fahrenheit()) return;
+    document_.SetTemperatureUnit(fahrenheit);
+}
+
+void frmBraskLite::UpdateDataCommands() {
+    menus_->SyncEnabled();
+    Toolbar1->SyncAll();
+    graphPage_->SyncEnabled();
+    SSTab1->setTabEnabled(kDataTab, commands_.HasReadings() && !commands_.Busy());
+    graphOptions_->setEnabled(!commands_.Busy());
+    programOptions_->setEnabled(!commands_.Busy());
+    menus_->Submenu(QStringLiteral("mnuRecentFiles"))
+        ->setEnabled(!commands_.Busy() && !recent_.List().empty());
+}
+
+void frmBraskLite::ShowRecentFiles() {
+    QMenu* const menu = menus_->Submenu(QStringLiteral("mnuRecentFiles"));
+    menu->clear();
+    QStringList paths;
+    for (const std::string& path : recent_.List()) {
+        paths << ToQt(path);
+        QAction* const entry = menu->addAction(
+            QStringLiteral("&%1  %2").arg(paths.size() % 10).arg(
+                QString(paths.last()).replace(QLatin1Char('&'), QStringLiteral("&&"))));
+        connect(entry, &QAction::triggered, this, [this, path] { OpenLater(ToQt(path)); });
+    }
+    menu->addSeparator();
+    QAction* const clear = menu->addAction(ToQt(system_.Words, kClearList));
+    connect(clear, &QAction::triggered, this, [this] {
+        recent_.Clear();
+        ShowRecentFiles();
+        UpdateDataCommands();
+    });
+    graphPage_->ShowRecentFiles(paths, [this](const QString& path) { OpenLater(path); });
+}
+
+void frmBraskLite::OpenLater(const QString& path) {
+    QTimer::singleShot(0, this, [this, path] { OpenFile(path); });
+}
+
+void frmBraskLite::closeEvent(QCloseEvent* event) {
+    // work under way sees that the program ends and returns; the window closes at once
+    system_.User.EndProgram();
+    event->accept();
+}
+
+void frmBraskLite::dragEnterEvent(QDragEnterEvent* event) {
+    if (!commands_.Busy() && !DraggedFile(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmBraskLite::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    OpenLater(DraggedFile(event->mimeData()));
+}
+
+}  // namespace brask

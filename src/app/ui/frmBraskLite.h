@@ -1,0 +1,99 @@
+// The main window: a frame around the menus, the toolbar, the pages and the status bar. It owns
+// them and connects them; the work behind the commands is elsewhere.
+#pragma once
+
+#include <QMainWindow>
+
+#include "app/Commands.h"
+#include "app/Document.h"
+#include "app/ui/DataPage.h"
+#include "app/ui/FileCommands.h"
+#include "app/ui/GraphOptionsPage.h"
+#include "app/ui/GraphPage.h"
+#include "app/ui/MenuBar.h"
+#include "app/ui/ProgramOptionsPage.h"
+#include "app/ui/StatusBar.h"
+#include "app/ui/TabControl.h"
+#include "app/ui/Toolbar.h"
+#include "app/ui/frmBuildingGraph.h"
+#include "data/ProgramOptions.h"
+#include "data/RecentFiles.h"
+#include "data/Session.h"
+#include "platform/System.h"
+#include "platform/qt/Choosers.h"
+#include "platform/qt/QtUserInterface.h"
+#include "plot/Plotting.h"
+
+namespace brask {
+
+class frmBraskLite final : public QMainWindow, private DocumentView {
+    Q_OBJECT
+
+  public:
+    frmBraskLite(const System& system, const Session& session, const Plotting& plotting,
+                 Choosers& choosers);
+
+    // The start-up sequence; run once, before the window is shown.
+    void FormLoad();
+    // Where progress and notices of the core are to be shown.
+    ProgressView& Progress() { return *frmBuildingGraph_; }
+    NoticeView& Notices() { return *statusBar_; }
+    // Opens a data file from disk.
+    void OpenFile(const QString& path) { files_->OpenFile(path); }
+    // Whether the stored options ask for a maximized window.
+    bool OpensMaximized() const { return opensMaximized_; }
+    // For tests and for pieces that come to hook in.
+    Commands& Registry() { return commands_; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    enum Tab { kGraphTab, kDataTab, kGraphOptionsTab, kProgramOptionsTab };
+
+    void BuildPages();
+    void RegisterCommands();
+    // Steps of the start-up.
+    void LoadOptions();
+    void ShowDirectories(const ProgramOptions& options);
+    void CheckSyncSoftware();
+
+    void ShowCaption(const std::string& caption) override;
+    void ShowChart() override;
+    void ShowReadings() override;
+
+    void SSTab1_Click(int tab);
+    void optGraph_Click(int index);
+    void optTemperatureDisplay_Click(bool fahrenheit);
+    void UpdateDataCommands();
+    void ShowRecentFiles();
+    // Opens a file that was dropped or named in a list, once the events under way are done.
+    void OpenLater(const QString& path);
+
+    System system_;
+    Session session_;
+    Plotting plotting_;
+    Commands commands_;
+    Document document_;
+    RecentFiles recent_;
+    WindowsKind windowsKind_ = WindowsKind::kNotClassified;
+    std::string connectionText_;
+    std::string helpFile_;
+    int previousTab_ = kGraphTab;
+    bool opensMaximized_ = false;
+
+    std::unique_ptr<MenuBar> menus_;
+    std::unique_ptr<FileCommands> files_;
+    Toolbar* Toolbar1 = nullptr;
+    TabControl* SSTab1 = nullptr;
+    GraphPage* graphPage_ = nullptr;
+    DataPage* dataPage_ = nullptr;
+    GraphOptionsPage* graphOptions_ = nullptr;
+    ProgramOptionsPage* programOptions_ = nullptr;
+    StatusBar* statusBar_ = nullptr;
+    frmBuildingGraph* frmBuildingGraph_ = nullptr;
+};
+
+}  // namespace brask

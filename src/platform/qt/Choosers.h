@@ -1,0 +1,29 @@
+// The system's dialogs that choose something: files now, more as commands need them. Scripted in
+// tests.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+class QWidget;
+
+namespace brask {
+
+struct FileQuestion {
+    QString Title;
+    QString Filter;         // "CSV Files|*.csv|All Files|*.*", the first one chosen
+    QString Start;          // directory, or proposed file in it
+    QString DefaultSuffix;  // added to a name without extension; for saving
+};
+
+class Choosers {
+  public:
+    virtual ~Choosers() = default;
+
+    // The path of an existing file, or of a file to write (asked again before one that exists is
+    // taken). Nothing when the user cancelled.
+    virtual std::optional<QString> FileToOpen(QWidget* parent, const FileQuestion& question) = 0;
+    virtual std::optional<QString> FileToSave(QWidget* parent, const FileQuestion& question) = 0;
+};
+
+}  // namespace brask

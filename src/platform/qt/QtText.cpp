@@ -1,0 +1,17 @@
+#include "platform/qt/QtText.h"
+
+namespace brask {
+
+QString ToQt(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+std::string FromQt(const QString& text) { return text.toStdString(); }
+
+QString ToQt(const Texts& texts, const TextRow& row) { return ToQt(texts.Find(row)); }
+
+QString WithoutMnemonics(QString text) {
+    text.replace(QStringLiteral("&&"), QStringLiteral("\x01"));
+    text.remove(QLatin1Char('&'));
+    return text.replace(QLatin1Char('\x01'), QLatin1Char('&'));
+}
+
+}  // namespace brask

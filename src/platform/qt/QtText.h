@@ -1,0 +1,18 @@
+// Between the core's UTF-8 texts and Qt's.
+#pragma once
+
+#include <QString>
+#include <string>
+
+#include "platform/Texts.h"
+
+namespace brask {
+
+QString ToQt(const std::string& utf8);
+std::string FromQt(const QString& text);
+// A row in the language in force.
+QString ToQt(const Texts& texts, const TextRow& row);
+// A caption without its mnemonic mark; "&&" becomes the "&" that it stands for.
+QString WithoutMnemonics(QString text);
+
+}  // namespace brask
