@@ -32,8 +32,7 @@ void Document::Open(const std::string& path, DataSource source) {
     const std::string title = system_.Words.Find(data_texts::kProgramTitle);
     view_->ShowCaption(title);
 
-    const LoadOutcome outcome =
-        session_.Loader.LoadDataFile({session_.DateOrder, session_.Unit});
+    const LoadOutcome outcome = session_.Loader.LoadDataFile({session_.DateOrder, session_.Unit});
     commands_.SetBusy(false);
     commands_.SetHasReadings(session_.Data.ReadingCount > 0);
     if (system_.User.Ended()) return;

@@ -49,8 +49,7 @@ inline constexpr auto kAxesBackground = TextRow("options", "Axes Background");
 inline constexpr auto kGraphBackground = TextRow("options", "Graph Background");
 inline constexpr auto kTitle = TextRow("options", "Title");
 inline constexpr auto kAxesLabels = TextRow("options", "X/Y Axes Labels");
-inline constexpr auto kLineColorsForLabels =
-    TextRow("options", "Use Graph Line Colors for Labels");
+inline constexpr auto kLineColorsForLabels = TextRow("options", "Use Graph Line Colors for Labels");
 inline constexpr auto kRestoreColors = TextRow("options", "Restore to Default");
 
 inline constexpr auto kLineColors = TextRow("options", "Graph Line Color Sequence");
@@ -67,8 +66,7 @@ inline constexpr auto kClipboardColor = TextRow("options", "Color %1");
 inline constexpr auto kRestoreLineColors = TextRow("options", "Restore Line Colors to Default");
 
 inline constexpr auto kProgram = TextRow("options", "Program");
-inline constexpr auto kOpenMaximized =
-    TextRow("options", "Open Program With Maximized Window");
+inline constexpr auto kOpenMaximized = TextRow("options", "Open Program With Maximized Window");
 inline constexpr auto kNotifyNewFiles =
     TextRow("options", "Display Message As Data Files Are Saved");
 inline constexpr auto kAutoDelete =

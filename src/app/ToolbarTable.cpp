@@ -5,8 +5,6 @@
 namespace brask {
 namespace {
 
-
-
 // a table reads best a row a line
 // clang-format off
 const ToolbarRow kSeparator{"", TextRow("toolbar", ""), "", "", ""};

@@ -9,12 +9,12 @@
 
 namespace brask {
 
-DataPage::DataPage(const DataSet& data, const TemperatureUnit& unit, const Texts& texts,
+DataPage::DataPage(const DataSet& readings, const TemperatureUnit& unit, const Texts& texts,
                    QWidget* parent)
     : QWidget(parent),
-      data_(data),
+      data_(readings),
       texts_(texts),
-      model_(new ReadingsModel(data, unit, texts, this)),
+      model_(new ReadingsModel(readings, unit, texts, this)),
       lblGridCount(new QLabel(this)),
       MSFlexGrid1(new QTableView(this)) {
     setObjectName(QStringLiteral("FrameData"));
@@ -25,8 +25,7 @@ DataPage::DataPage(const DataSet& data, const TemperatureUnit& unit, const Texts
     MSFlexGrid1->setSelectionBehavior(QAbstractItemView::SelectRows);
     MSFlexGrid1->verticalHeader()->hide();
     MSFlexGrid1->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    MSFlexGrid1->verticalHeader()->setDefaultSectionSize(
-        MSFlexGrid1->fontMetrics().height() + 6);
+    MSFlexGrid1->verticalHeader()->setDefaultSectionSize(MSFlexGrid1->fontMetrics().height() + 6);
     MSFlexGrid1->horizontalHeader()->setStretchLastSection(true);
     const int digit = MSFlexGrid1->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     MSFlexGrid1->setColumnWidth(0, 10 * digit);

@@ -73,10 +73,9 @@ QWidget* GraphOptionsPage::BuildLayoutColumn(const UserLocale& locale) {
 
 QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
     QGroupBox* const frame = controls_.Frame(kDisplayPeriod);
-    optPeriodDisplay =
-        controls_.Options("optPeriodDisplay", frame,
-                          {kDisplayAllData, kDisplayDates, kDisplayTimes, kDisplayDays},
-                          Available::kLater);
+    optPeriodDisplay = controls_.Options(
+        "optPeriodDisplay", frame, {kDisplayAllData, kDisplayDates, kDisplayTimes, kDisplayDays},
+        Available::kLater);
     optPeriodDisplay->button(0)->setChecked(true);
     const auto text = [frame](const char* name) {
         auto* box = new QLineEdit(frame);
@@ -120,11 +119,11 @@ QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
 
 QWidget* GraphOptionsPage::BuildDrawingColumn() {
     QGroupBox* const cursor = controls_.Frame(kCursor);
-    optCursorType = controls_.Options("optCursorType", cursor,
-                                      {kCursorLines, kCursorSquare, kCursorVertical,
-                                       kCursorHorizontal, kCursorCircle, kCursorDiamond,
-                                       kCursorBox},
-                                      Available::kLater);
+    optCursorType =
+        controls_.Options("optCursorType", cursor,
+                          {kCursorLines, kCursorSquare, kCursorVertical, kCursorHorizontal,
+                           kCursorCircle, kCursorDiamond, kCursorBox},
+                          Available::kLater);
 
     QGroupBox* const limits = controls_.Frame(kUpperLimits);
     chkDisplayUpperLimits = controls_.CheckBox("chkDisplayUpperLimits", kDisplayUpperLimits);

@@ -18,11 +18,9 @@ constexpr const char* kKeyProperty = "toolbarKey";
 
 GraphPage::GraphPage(const Chart& chart, const UserLocale& locale, const Texts& texts,
                      Commands& commands, QWidget* parent)
-    : QStackedWidget(parent),
-      texts_(texts),
-      commands_(commands),
-      frameCommandEnabled(BuildAdvice()),
-      frameGraph(BuildPlot(chart, locale)) {
+    : QStackedWidget(parent), texts_(texts), commands_(commands) {
+    frameCommandEnabled = BuildAdvice();
+    frameGraph = BuildPlot(chart, locale);
     addWidget(frameCommandEnabled);
     addWidget(frameGraph);
     DrawIcons();
@@ -131,9 +129,9 @@ void GraphPage::ShowRecentFiles(const QStringList& paths,
     }
     lblRecent->setVisible(!paths.isEmpty());
     for (const QString& path : paths) {
-        auto* link = new QPushButton(QFileInfo(path).fileName().replace(QStringLiteral("&"),
-                                                                        QStringLiteral("&&")),
-                                     frameCommandEnabled);
+        auto* link = new QPushButton(
+            QFileInfo(path).fileName().replace(QStringLiteral("&"), QStringLiteral("&&")),
+            frameCommandEnabled);
         link->setFlat(true);
         link->setCursor(Qt::PointingHandCursor);
         link->setToolTip(path);

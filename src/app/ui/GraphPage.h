@@ -20,8 +20,8 @@ namespace brask {
 
 class GraphPage final : public QStackedWidget {
   public:
-    GraphPage(const Chart& chart, const UserLocale& locale, const Texts& texts,
-              Commands& commands, QWidget* parent);
+    GraphPage(const Chart& chart, const UserLocale& locale, const Texts& texts, Commands& commands,
+              QWidget* parent);
 
     // With data the plot, without it the advice.
     void ShowPlotFrame(bool hasReadings);
@@ -43,15 +43,15 @@ class GraphPage final : public QStackedWidget {
 
     const Texts& texts_;
     Commands& commands_;
-    QWidget* frameCommandEnabled;
+    QWidget* frameCommandEnabled = nullptr;
     QList<QPushButton*> largeButtons_;
-    QLabel* lblRecent;
-    QVBoxLayout* recentList_;
+    QLabel* lblRecent = nullptr;
+    QVBoxLayout* recentList_ = nullptr;
     DynaPlot* DynaPlot1 = nullptr;
     QScrollBar* Scroll1 = nullptr;
     QLineEdit* txtFindPoint = nullptr;
     QPushButton* cmdFindPoint = nullptr;
-    QWidget* frameGraph;
+    QWidget* frameGraph = nullptr;
 };
 
 }  // namespace brask

@@ -32,8 +32,7 @@ QPushButton* OptionControls::Button(const char* name, const TextRow& caption) co
     return Button(name, ToQt(texts_, caption));
 }
 
-QRadioButton* OptionControls::Option(QButtonGroup* group, int index,
-                                     const QString& caption) const {
+QRadioButton* OptionControls::Option(QButtonGroup* group, int index, const QString& caption) const {
     auto* button = new QRadioButton(caption, page_);
     button->setObjectName(group->objectName() + QLatin1Char('_') + QString::number(index));
     group->addButton(button, index);

@@ -82,8 +82,8 @@ void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
     ChooseOption(optDataAccess, options.DataAccessIsGlobal ? 0 : 1);
     optDataAccess->button(0)->setText(
         ToQt(texts_.Fill(kAllUsers, {FromQt(directories.SharedDirectory)})));
-    optDataAccess->button(1)->setText(ToQt(texts_.Fill(
-        kOneUser, {FromQt(directories.UserName), FromQt(directories.UserDirectory)})));
+    optDataAccess->button(1)->setText(ToQt(
+        texts_.Fill(kOneUser, {FromQt(directories.UserName), FromQt(directories.UserDirectory)})));
 }
 
 void ProgramOptionsPage::ShowAddresses(const QString& instrument, const QString& handheld) {

@@ -19,9 +19,9 @@ const QColor kLetters(0, 0, 0);
 
 }  // namespace
 
-ReadingsModel::ReadingsModel(const DataSet& data, const TemperatureUnit& unit, const Texts& texts,
+ReadingsModel::ReadingsModel(const DataSet& readings, const TemperatureUnit& unit, const Texts& texts,
                              QObject* parent)
-    : QAbstractTableModel(parent), data_(data), unit_(unit), texts_(texts) {}
+    : QAbstractTableModel(parent), data_(readings), unit_(unit), texts_(texts) {}
 
 void ReadingsModel::LetGo() {
     beginResetModel();

@@ -11,7 +11,7 @@ namespace brask {
 
 class ReadingsModel final : public QAbstractTableModel {
   public:
-    ReadingsModel(const DataSet& data, const TemperatureUnit& unit, const Texts& texts,
+    ReadingsModel(const DataSet& readings, const TemperatureUnit& unit, const Texts& texts,
                   QObject* parent);
 
     // Before the readings go away, and after new ones are there.

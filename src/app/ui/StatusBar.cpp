@@ -35,11 +35,10 @@ StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
     ShowTime();
 }
 
-void StatusBar::ShowData(const DataSet& data, const QString& fileName,
-                         std::int64_t rejectedLines) {
-    const bool any = data.ReadingCount > 0;
+void StatusBar::ShowData(const DataSet& readings, const QString& fileName, std::int64_t rejectedLines) {
+    const bool any = readings.ReadingCount > 0;
     lblStatusFile->setText(any ? fileName : QString());
-    const std::string count = std::to_string(data.ReadingCount);
+    const std::string count = std::to_string(readings.ReadingCount);
     const std::string text =
         rejectedLines == 0
             ? texts_.Fill(app_texts::kStatusReadings, {count})

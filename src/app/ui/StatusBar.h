@@ -17,7 +17,7 @@ class StatusBar final : public QStatusBar, public NoticeView {
     StatusBar(const Texts& texts, const Clock& clock, QWidget* parent);
 
     // Shows the file's name and the counts; nothing without readings.
-    void ShowData(const DataSet& data, const QString& fileName, std::int64_t rejectedLines);
+    void ShowData(const DataSet& readings, const QString& fileName, std::int64_t rejectedLines);
     // Stands until the next load or another notice.
     void ShowNotice(const QString& text) override;
 

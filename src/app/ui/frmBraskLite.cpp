@@ -26,8 +26,8 @@ QString DraggedFile(const QMimeData* data) {
 
 }  // namespace
 
-frmBraskLite::frmBraskLite(const System& system, const Session& session,
-                           const Plotting& plotting, Choosers& choosers)
+frmBraskLite::frmBraskLite(const System& system, const Session& session, const Plotting& plotting,
+                           Choosers& choosers)
     : system_(system),
       session_(session),
       plotting_(plotting),
@@ -40,8 +40,8 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session,
     resize(1100, 740);
     document_.SetView(*this);
     files_ = std::make_unique<FileCommands>(
-        system_,
-        FileCommandParts{document_, commands_, recent_, session_.Directories, choosers}, *this);
+        system_, FileCommandParts{document_, commands_, recent_, session_.Directories, choosers},
+        *this);
     RegisterCommands();
     menus_ = std::make_unique<MenuBar>(*menuBar(), system_.Words, commands_);
     BuildPages();
@@ -90,8 +90,8 @@ void frmBraskLite::FormLoad() {
     ShowCaption(document_.StartCaption());
     const std::string programDirectory = system_.Information.ProgramDirectory();
     connectionText_ = ConnectionText(programDirectory, system_.Disk.Separator());
-    windowsKind_ = CheckWindowsVersion(system_.Information, system_.User, system_.Words,
-                                       session_.Options);
+    windowsKind_ =
+        CheckWindowsVersion(system_.Information, system_.User, system_.Words, session_.Options);
     LoadOptions();
     session_.Directories.ResolveDataDirectories(session_.Options, windowsKind_);
     Toolbar1->BuildToolbar();
@@ -114,8 +114,7 @@ void frmBraskLite::FormLoad() {
 void frmBraskLite::LoadOptions() {
     const Settings::LoadingGuard guard(session_.Options);
     const bool fahrenheitInForce = session_.Unit.Fahrenheit();
-    ProgramOptions options =
-        LoadProgramOptions(session_.Options, system_.User, system_.Words);
+    ProgramOptions options = LoadProgramOptions(session_.Options, system_.User, system_.Words);
     // the unit may be another one than the stored for this run
     options.Fahrenheit = fahrenheitInForce;
     graphOptions_->ShowOptions(options);
@@ -162,8 +161,7 @@ void frmBraskLite::ShowChart() {
 void frmBraskLite::ShowReadings() {
     dataPage_->MarkStale();
     graphPage_->ShowPlotFrame(session_.Data.ReadingCount > 0);
-    statusBar_->ShowData(session_.Data,
-                         ToQt(BaseName(system_.Disk, session_.Data.CurrentDataFile)),
+    statusBar_->ShowData(session_.Data, ToQt(BaseName(system_.Disk, session_.Data.CurrentDataFile)),
                          document_.RejectedLines());
     ShowRecentFiles();
     if (session_.Data.ReadingCount == 0 && SSTab1->currentIndex() == kDataTab) {
@@ -215,8 +213,9 @@ void frmBraskLite::ShowRecentFiles() {
     for (const std::string& path : recent_.List()) {
         paths << ToQt(path);
         QAction* const entry = menu->addAction(
-            QStringLiteral("&%1  %2").arg(paths.size() % 10).arg(
-                QString(paths.last()).replace(QLatin1Char('&'), QStringLiteral("&&"))));
+            QStringLiteral("&%1  %2")
+                .arg(paths.size() % 10)
+                .arg(QString(paths.last()).replace(QLatin1Char('&'), QStringLiteral("&&"))));
         connect(entry, &QAction::triggered, this, [this, path] { OpenLater(ToQt(path)); });
     }
     menu->addSeparator();

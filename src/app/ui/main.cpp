@@ -45,9 +45,9 @@ CommandLine ParseCommandLine(const QApplication& application) {
         QStringLiteral("settings"),
         QStringLiteral("keep settings in this INI file instead of the user's own store"),
         QStringLiteral("FILE"));
-    const QCommandLineOption root(
-        QStringLiteral("root"), QStringLiteral("base directory of the data directories"),
-        QStringLiteral("DIR"));
+    const QCommandLineOption root(QStringLiteral("root"),
+                                  QStringLiteral("base directory of the data directories"),
+                                  QStringLiteral("DIR"));
     const QCommandLineOption order(QStringLiteral("date-order"),
                                    QStringLiteral("override the date order: mdy, dmy or ymd"),
                                    QStringLiteral("ORDER"));
@@ -74,9 +74,8 @@ int main(int argc, char** argv) {
     const EnglishTexts texts;
     QtUserInterface user(texts, app_texts::kNoMoreMessages);
     QtChoosers choosers;
-    const System system{user,          texts,
-                        native.Disk(), native.Locale(),
-                        native.Information(), native.Time()};
+    const System system{user,         texts, native.Disk(), native.Locale(), native.Information(),
+                        native.Time()};
 
     DiagnosticLog log(native.Disk(), native.Time());
     // what goes wrong before the window stands is said when it does
@@ -93,9 +92,9 @@ int main(int argc, char** argv) {
         directories.OverrideBase(native.Disk().Absolute(FromQt(line.Root)));
     }
     DataFileLoader loader(data, user, texts, native.Disk(), log);
-    const Session session{data,        loader,           unit,
-                          line.DateOrder.value_or(native.Locale().DateOrder()),
-                          directories, stored.Options(), log};
+    const Session session{
+        data,        loader,           unit, line.DateOrder.value_or(native.Locale().DateOrder()),
+        directories, stored.Options(), log};
     Chart chart;
     PlotBuilder builder(chart, data, native.Locale(), texts);
 
