@@ -24,6 +24,7 @@ DataDirectories::DataDirectories(Files& files, UserInterface& user, const Texts&
     : files_(files), user_(user), texts_(texts) {}
 
 std::string DataDirectories::SystemBase(const Settings& settings, WindowsKind kind) const {
+    if (!overriddenBase_.empty()) return overriddenBase_;
     const bool shared = settings.IsYes("DataAccessIsGlobal") && kind == WindowsKind::kNt5;
     const std::string documents =
         files_.Folder(shared ? KnownFolder::kSharedDocuments : KnownFolder::kUserDocuments);
@@ -31,8 +32,9 @@ std::string DataDirectories::SystemBase(const Settings& settings, WindowsKind ki
 }
 
 std::string DataDirectories::Base(const Settings& settings, WindowsKind kind) const {
-    if (!overriddenBase_.empty()) return overriddenBase_;
-    if (!settings.IsYes("UserSpecifiedDirectoryActive")) return SystemBase(settings, kind);
+    if (!overriddenBase_.empty() || !settings.IsYes("UserSpecifiedDirectoryActive")) {
+        return SystemBase(settings, kind);
+    }
     std::string chosen = settings.Get("UserSpecDir");
     if (chosen.empty()) chosen = "c:\\my documents";
     if (files_.Separator() == '/' && NamesDrive(chosen)) {

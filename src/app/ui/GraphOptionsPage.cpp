@@ -14,6 +14,9 @@ using namespace option_texts;
 
 namespace {
 
+constexpr const char* kWidestDate = "30-Mmm-2000 00:00:00";
+constexpr const char* kWidestTime = "00:00 MM";
+
 QColor ToQtColor(ColorValue color) { return {color.Red(), color.Green(), color.Blue()}; }
 
 }  // namespace
@@ -31,8 +34,8 @@ GraphOptionsPage::GraphOptionsPage(const Texts& texts, const UserLocale& locale,
     colorColumn->addWidget(BuildLineColors(), 1);
 
     auto* columns = new QHBoxLayout(frameGraphOptions);
-    columns->addWidget(BuildLayoutColumn(locale), 3);
-    columns->addWidget(BuildDrawingColumn(), 3);
+    columns->addWidget(BuildLayoutColumn(locale), 2);
+    columns->addWidget(BuildDrawingColumn(), 2);
     columns->addWidget(colors, 4);
     setWidget(frameGraphOptions);
     setWidgetResizable(true);
@@ -77,9 +80,12 @@ QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
         "optPeriodDisplay", frame, {kDisplayAllData, kDisplayDates, kDisplayTimes, kDisplayDays},
         Available::kLater);
     optPeriodDisplay->button(0)->setChecked(true);
-    const auto text = [frame](const char* name) {
+    const auto text = [frame](const char* name, const char* widest) {
         auto* box = new QLineEdit(frame);
         box->setObjectName(QString::fromLatin1(name));
+        const int margins = 2 * box->fontMetrics().averageCharWidth();
+        box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QString::fromLatin1(widest)) +
+                             margins);
         box->setEnabled(false);
         return box;
     };
@@ -90,10 +96,10 @@ QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
         list->setEnabled(false);
         return list;
     };
-    txtStartUserDisplayPeriod = text("txtStartUserDisplayPeriod");
-    txtEndUserDisplayPeriod = text("txtEndUserDisplayPeriod");
-    txtStartUserDisplayTime = text("txtStartUserDisplayTime");
-    txtEndUserDisplayTime = text("txtEndUserDisplayTime");
+    txtStartUserDisplayPeriod = text("txtStartUserDisplayPeriod", kWidestDate);
+    txtEndUserDisplayPeriod = text("txtEndUserDisplayPeriod", kWidestDate);
+    txtStartUserDisplayTime = text("txtStartUserDisplayTime", kWidestTime);
+    txtEndUserDisplayTime = text("txtEndUserDisplayTime", kWidestTime);
     cmbDisplayDayStart = days("cmbDisplayDayStart");
     cmbDisplayDayEnd = days("cmbDisplayDayEnd");
 
@@ -186,8 +192,8 @@ QGroupBox* GraphOptionsPage::BuildLineColors() {
     MSFlexGridColors->horizontalHeader()->setStretchLastSection(true);
     MSFlexGridColors->setEditTriggers(QAbstractItemView::NoEditTriggers);
     MSFlexGridColors->setSelectionMode(QAbstractItemView::NoSelection);
-    MSFlexGridColors->setColumnWidth(0, 56);
-    MSFlexGridColors->setColumnWidth(1, 90);
+    MSFlexGridColors->setColumnWidth(0, 44);
+    MSFlexGridColors->setColumnWidth(1, 80);
     MSFlexGridColors->setMinimumHeight(150);
 
     auto* buttons = new QVBoxLayout;

@@ -19,8 +19,8 @@ const QColor kLetters(0, 0, 0);
 
 }  // namespace
 
-ReadingsModel::ReadingsModel(const DataSet& readings, const TemperatureUnit& unit, const Texts& texts,
-                             QObject* parent)
+ReadingsModel::ReadingsModel(const DataSet& readings, const TemperatureUnit& unit,
+                             const Texts& texts, QObject* parent)
     : QAbstractTableModel(parent), data_(readings), unit_(unit), texts_(texts) {}
 
 void ReadingsModel::LetGo() {

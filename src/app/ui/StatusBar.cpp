@@ -35,7 +35,8 @@ StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
     ShowTime();
 }
 
-void StatusBar::ShowData(const DataSet& readings, const QString& fileName, std::int64_t rejectedLines) {
+void StatusBar::ShowData(const DataSet& readings, const QString& fileName,
+                         std::int64_t rejectedLines) {
     const bool any = readings.ReadingCount > 0;
     lblStatusFile->setText(any ? fileName : QString());
     const std::string count = std::to_string(readings.ReadingCount);

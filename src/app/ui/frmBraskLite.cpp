@@ -164,9 +164,6 @@ void frmBraskLite::ShowReadings() {
     statusBar_->ShowData(session_.Data, ToQt(BaseName(system_.Disk, session_.Data.CurrentDataFile)),
                          document_.RejectedLines());
     ShowRecentFiles();
-    if (session_.Data.ReadingCount == 0 && SSTab1->currentIndex() == kDataTab) {
-        SSTab1->setCurrentIndex(kGraphTab);
-    }
 }
 
 void frmBraskLite::SSTab1_Click(int tab) {
@@ -199,7 +196,10 @@ void frmBraskLite::UpdateDataCommands() {
     menus_->SyncEnabled();
     Toolbar1->SyncAll();
     graphPage_->SyncEnabled();
-    SSTab1->setTabEnabled(kDataTab, commands_.HasReadings() && !commands_.Busy());
+    if (!commands_.HasReadings() && SSTab1->currentIndex() == kDataTab) {
+        SSTab1->setCurrentIndex(kGraphTab);
+    }
+    SSTab1->setTabEnabled(kDataTab, commands_.HasReadings());
     graphOptions_->setEnabled(!commands_.Busy());
     programOptions_->setEnabled(!commands_.Busy());
     menus_->Submenu(QStringLiteral("mnuRecentFiles"))

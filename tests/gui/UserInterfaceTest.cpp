@@ -1,0 +1,119 @@
+// The message boxes, file filters and the progress window as a user meets them.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "app/AppTexts.h"
+#include "app/ui/frmBuildingGraph.h"
+#include "platform/qt/QtChoosers.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/QtUserInterface.h"
+
+namespace brask {
+namespace {
+
+// Answers the next modal box: hands it to `answer` as soon as it is there.
+class BoxAnswer {
+  public:
+    explicit BoxAnswer(std::function<void(QMessageBox&)> answer) {
+        QObject::connect(&timer_, &QTimer::timeout, [this, answer = std::move(answer)] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr) return;
+            timer_.stop();
+            answer(*box);
+        });
+        timer_.start(1);
+    }
+
+  private:
+    QTimer timer_;
+};
+
+class Boxes : public testing::Test {
+  protected:
+    EnglishTexts texts_;
+    QtUserInterface user_{texts_, app_texts::kNoMoreMessages};
+};
+
+TEST_F(Boxes, MessageIsShownAsPlainTextWithOneButton) {
+    QString title;
+    QString text;
+    qsizetype buttons = 0;
+    const BoxAnswer answer([&](QMessageBox& box) {
+        title = box.windowTitle();
+        text = box.text();
+        buttons = box.buttons().size();
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        box.button(QMessageBox::Ok)->click();
+    });
+    user_.ShowMessage({"Title", "<b>one</b>\r\ntwo"});
+    EXPECT_EQ(text, QStringLiteral("<b>one</b>\ntwo"));
+    EXPECT_EQ(title, QStringLiteral("Title"));
+    EXPECT_EQ(buttons, 1);
+}
+
+TEST_F(Boxes, RepeatedMessagesCanBeSwitchedOff) {
+    for (const bool check : {false, true}) {
+        const BoxAnswer answer([check](QMessageBox& box) {
+            EXPECT_FALSE(box.checkBox()->isChecked()) << "unchecked each time";
+            box.checkBox()->setChecked(check);
+            box.button(QMessageBox::Ok)->click();
+        });
+        EXPECT_EQ(user_.ShowRepeatedMessage({"Title", "bad line"}), !check);
+    }
+}
+
+TEST_F(Boxes, QuestionsReturnTheChosenAnswer) {
+    const struct {
+        QMessageBox::StandardButton Button;
+        bool Retry;
+        bool Expected;
+    } cases[] = {{QMessageBox::Yes, false, true},
+                 {QMessageBox::No, false, false},
+                 {QMessageBox::Retry, true, true},
+                 {QMessageBox::Cancel, true, false}};
+    for (const auto& one : cases) {
+        const BoxAnswer answer([&](QMessageBox& box) { box.button(one.Button)->click(); });
+        const Message message{"Title", "Text"};
+        EXPECT_EQ(one.Retry ? user_.AskRetry(message) : user_.AskYesNo(message), one.Expected);
+    }
+}
+
+TEST_F(Boxes, ProgressCanBeCancelledOnlyWhileReadingAndStartsAnew) {
+    frmBuildingGraph progress(texts_, nullptr);
+    user_.SetViews(nullptr, &progress, nullptr);
+    auto* cancel = progress.findChild<QPushButton*>(QStringLiteral("cmdCancel"));
+    user_.BeginProgress(ProgressMode::kReadingFile);
+    EXPECT_TRUE(progress.isVisible());
+    EXPECT_FALSE(user_.ProgressCancelled());
+    cancel->click();
+    EXPECT_TRUE(user_.ProgressCancelled());
+    EXPECT_TRUE(progress.isVisible()) << "it closes when the work has stopped";
+    user_.EndProgress();
+    EXPECT_FALSE(progress.isVisible());
+    user_.BeginProgress(ProgressMode::kFillingGrid);
+    EXPECT_FALSE(user_.ProgressCancelled());
+    EXPECT_EQ(progress.windowTitle(), QStringLiteral("Filling Data Grid"));
+    EXPECT_FALSE(cancel->isVisible());
+    progress.close();
+    EXPECT_FALSE(user_.ProgressCancelled());
+}
+
+TEST(QtFilter, MatchesExtensionsInAnyLetterCase) {
+    EXPECT_EQ(QtFilter(QStringLiteral("All Files|*.*|CSV Files|*.csv")),
+              QStringLiteral("All Files (*);;CSV Files (*.csv *.CSV)"));
+    EXPECT_EQ(QtFilter(QStringLiteral("Pictures|*.bmp;*.png")),
+              QStringLiteral("Pictures (*.bmp *.BMP *.png *.PNG)"));
+}
+
+TEST(WithoutMnemonics, KeepsTheAmpersandThatIsMeant) {
+    EXPECT_EQ(WithoutMnemonics(QStringLiteral("&Horizontal && Vertical")),
+              QStringLiteral("Horizontal & Vertical"));
+}
+
+}  // namespace
+}  // namespace brask

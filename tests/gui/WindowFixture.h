@@ -1,0 +1,99 @@
+// The main window on fakes: a disk in memory, a scripted user, a settings store in memory.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <memory>
+
+#include "app/ui/frmBraskLite.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/ScriptedChoosers.h"
+#include "platform/simulated/FixedUserLocale.h"
+#include "platform/simulated/ManualClock.h"
+#include "platform/simulated/MemoryFiles.h"
+#include "platform/simulated/MemorySettingsStore.h"
+#include "platform/simulated/ScriptedUserInterface.h"
+
+namespace brask {
+
+class PlainSystemInformation final : public SystemInformation {
+  public:
+    std::optional<VersionRecord> Version() const override { return VersionRecord{}; }
+    std::string ErrorText(int number) const override { return number == 17 ? "File exists" : ""; }
+    std::string RegistryText(const std::string&, const std::string&) const override { return ""; }
+    std::string UserName() const override { return "tester"; }
+    std::string ProgramDirectory() const override { return "/programs"; }
+};
+
+class WindowFixture : public testing::Test {
+  protected:
+    // Three readings on two days, one line of each kind that is no reading.
+    static constexpr const char* kThreeReadings =
+        "INSTRUMENT: K42\r\nSERIAL NUMBER: 7\r\nDATE: JAN-01-2003\r\nGAS: CO\r\n"
+        "JAN-01-2003 00:05:12,    0.1,  26.1\r\n"
+        "JAN-01-2003 12:00:00,    9.5,  10.0\r\n"
+        "JAN-02-2003 06:00:00,    4.0,  20.0\r\n"
+        "END DATA:      3\r\n";
+    static constexpr const char* kBadLines =
+        "XXX-01-2003 00:05:12,    0.1,  26.1\r\n"
+        "JAN-01-2003 00:05:12,    abc,  26.1\r\n";
+
+    WindowFixture() {
+        Disk.Contents["/data/three.csv"] = kThreeReadings;
+        Disk.Contents["/data/bad.csv"] = kBadLines;
+    }
+
+    // Starts the window with the settings as they are in Store.
+    frmBraskLite& Start() {
+        window_ = std::make_unique<frmBraskLite>(
+            System{User, texts_, Disk, locale_, information_, clock_},
+            Session{Data, loader_, Unit, LongDateOrder::kMonthDayYear, directories_, Options, log_},
+            Plotting{Plot, builder_}, Choose);
+        window_->FormLoad();
+        window_->show();
+        return *window_;
+    }
+    frmBraskLite& Window() { return *window_; }
+    void Open(const char* path) { Window().OpenFile(QString::fromLatin1(path)); }
+
+    // A control or menu item by its object name.
+    template <class T>
+    T* Find(const char* name) {
+        T* found = window_->findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    QAction* Item(const char* name) { return Find<QAction>(name); }
+    std::string Caption() { return FromQt(Window().windowTitle()); }
+
+    ScriptedUserInterface User;
+    ScriptedChoosers Choose;
+    MemoryFiles Disk;
+    MemorySettingsStore Store;
+    MemorySettingsStore OwnStore;
+    DataSet Data;
+    TemperatureUnit Unit;
+    Chart Plot;
+    std::vector<std::string> SaveFailures;
+
+  private:
+    EnglishTexts texts_;
+    FixedUserLocale locale_;
+    ManualClock clock_;
+    PlainSystemInformation information_;
+    DiagnosticLog log_{Disk, clock_};
+
+  protected:
+    Settings Options{Store, OwnStore, locale_, [this](const std::string& key, const std::string&) {
+                         SaveFailures.push_back(key);
+                     }};
+
+  private:
+    DataDirectories directories_{Disk, User, texts_};
+    DataFileLoader loader_{Data, User, texts_, Disk, log_};
+    PlotBuilder builder_{Plot, Data, locale_, texts_};
+    std::unique_ptr<frmBraskLite> window_;
+};
+
+}  // namespace brask
