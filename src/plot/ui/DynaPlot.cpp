@@ -1,0 +1,168 @@
+#include "plot/ui/DynaPlot.h"
+
+#include <algorithm>
+
+#include "plot/AxisTicks.h"
+#include "plot/PixelView.h"
+#include "plot/ui/ChartColors.h"
+#include "plot/ui/ChartTicker.h"
+#include "plot/ui/CurvePlottable.h"
+
+namespace brask {
+namespace {
+
+constexpr const char* kFontName = "arial";
+constexpr int kTickPoints = 9;
+constexpr int kAxisTitlePoints = 10;
+constexpr int kCaptionPoints = 9;
+constexpr double kWidestMoment = 38260.9513;  // a two-digit day and hour
+constexpr int kRoomBesideAxis = 130;          // value axes with their titles, pixels
+
+QFont PlotFont(int points) { return {kFontName, points}; }
+
+// Between two colours, `share` of the first.
+QColor Mixed(const QColor& first, const QColor& second, double share) {
+    const auto mix = [share](int a, int b) {
+        return static_cast<int>(share * a + (1 - share) * b);
+    };
+    return {mix(first.red(), second.red()), mix(first.green(), second.green()),
+            mix(first.blue(), second.blue())};
+}
+
+QString AxisTitle(const std::string& text) {
+    return QString::fromStdString(text).replace("\r\n", "\n");
+}
+
+void SetText(QCPTextElement& element, const std::string& text, const QFont& font,
+             const QColor& color) {
+    element.setText(QString::fromStdString(text));
+    element.setFont(font);
+    element.setTextColor(color);
+}
+
+void SetRange(QCPAxis& axis, const AxisRange& range, double halfWidth) {
+    const AxisRange drawable = DrawableRange(range, halfWidth);
+    axis.setRange(drawable.Minimum, drawable.Maximum);
+    axis.setRangeReversed(range.Minimum > range.Maximum);
+}
+
+}  // namespace
+
+DynaPlot::DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent)
+    : QCustomPlot(parent), chart_(chart), locale_(locale) {
+    setFocusPolicy(Qt::StrongFocus);
+    setLocale(locale.DecimalSign() == ',' ? QLocale(QLocale::German) : QLocale::c());
+    xAxis->setTicker(
+        QSharedPointer<ChartTicker>::create(chart, locale, [this] { return MostDateLabels(); }));
+    xAxis->setSubTicks(false);
+    xAxis2->setVisible(true);
+    xAxis2->setTicks(false);
+    xAxis2->setTickLabels(false);
+    yAxis2->setVisible(true);
+    for (QCPAxis* axis : {xAxis, yAxis, yAxis2}) {
+        axis->setTickLabelFont(PlotFont(kTickPoints));
+        axis->setLabelFont(PlotFont(kAxisTitlePoints));
+        axis->setLabelPadding(6);
+    }
+    AddTexts();
+    // the plot owns it from here on
+    new CurvePlottable(chart, xAxis, yAxis, yAxis2);
+}
+
+void DynaPlot::AddTexts() {
+    QCPLayoutGrid& rows = *plotLayout();
+    rows.setRowSpacing(2);
+    rows.insertRow(0);
+    rows.insertRow(0);
+    title_ = new QCPTextElement(this);
+    caption_ = new QCPTextElement(this);
+    readout_ = new QCPTextElement(this);
+    rows.addElement(0, 0, title_);
+    rows.addElement(1, 0, caption_);
+    rows.addElement(3, 0, readout_);
+}
+
+void DynaPlot::ShowChart() {
+    ShowBackground();
+    ShowTitle();
+    ShowAxes();
+    SetText(*readout_, chart_.Readout, PlotFont(kCaptionPoints), ToColor(chart_.X.Color));
+    replot(isVisible() ? rpRefreshHint : rpQueuedReplot);
+}
+
+QImage DynaPlot::Picture(QSize size) {
+    size = size.expandedTo(QSize(1, 1));
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(ToColor(chart_.Background.Chart));
+    QCPPainter painter(&picture);
+    toPainter(&painter, size.width(), size.height());
+    painter.end();
+    return picture;
+}
+
+void DynaPlot::ShowTitle() {
+    const TitleBlock title = chart_.Title.value_or(TitleBlock{});
+    const QColor color = ToColor(chart_.Background.Title);
+    const QString font = QString::fromStdString(title.FontName);
+    SetText(*title_, title.Title, QFont(font, title.FontSize), color);
+    SetText(*caption_, title.Caption, QFont(font, kCaptionPoints), color);
+}
+
+void DynaPlot::ShowAxes() {
+    const QColor lines = ToColor(chart_.X.Color);
+    const QColor grid = Mixed(lines, ToColor(chart_.Background.Inside), 0.15);
+    for (QCPAxis* axis : {xAxis, xAxis2, yAxis, yAxis2}) {
+        axis->setBasePen(lines);
+        axis->setTickPen(lines);
+        axis->setSubTickPen(lines);
+        axis->grid()->setPen(QPen(grid, 1, Qt::DotLine));
+        axis->grid()->setZeroLinePen(Qt::NoPen);
+    }
+    ShowXAxis();
+    ShowValueAxis(*yAxis, chart_.Y);
+    ShowValueAxis(*yAxis2, chart_.Y1);
+}
+
+void DynaPlot::ShowXAxis() {
+    SetRange(*xAxis, chart_.X.Range(),
+             chart_.Labels.DateFormat.empty() ? kNumberHalfWidth : kDateHalfWidth);
+    xAxis->setLabel(AxisTitle(chart_.X.Title));
+    xAxis->setLabelColor(ToColor(chart_.X.Color));
+    xAxis->setTickLabelColor(ToColor(chart_.X.Color));
+}
+
+void DynaPlot::ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale) {
+    SetRange(axis, scale.Range(), kNumberHalfWidth);
+    axis.setLabel(AxisTitle(scale.Title));
+    axis.setLabelColor(ToColor(scale.Color));
+    axis.setTickLabelColor(ToColor(scale.Color));
+}
+
+void DynaPlot::ShowBackground() {
+    const ChartBackground& background = chart_.Background;
+    setBackground(QBrush(ToColor(background.Chart)));
+    const QPixmap picture = BackgroundPicture();
+    setBackground(picture, background.Stretched, Qt::IgnoreAspectRatio);
+    // the picture shows inside the axes too
+    axisRect()->setBackground(picture.isNull() ? QBrush(ToColor(background.Inside))
+                                               : QBrush(Qt::NoBrush));
+}
+
+QPixmap DynaPlot::BackgroundPicture() {
+    if (pictureFile_ != chart_.Background.PictureFile) {
+        pictureFile_ = chart_.Background.PictureFile;
+        picture_ = pictureFile_.empty() ? QPixmap() : QPixmap(QString::fromStdString(pictureFile_));
+    }
+    return picture_;
+}
+
+std::size_t DynaPlot::MostDateLabels() const {
+    const QFontMetrics metrics(xAxis->tickLabelFont());
+    const QString widest =
+        QString::fromStdString(FormatDateLabel(kWidestMoment, chart_.Labels.DateFormat, locale_));
+    const int label = metrics.size(0, widest).width();
+    const double room = viewport().width() - kRoomBesideAxis;
+    return static_cast<std::size_t>(std::clamp(room / (1.4 * label + 1), 2.0, 16.0));
+}
+
+}  // namespace brask

@@ -1,0 +1,47 @@
+// Draws the chart: titles, axes, curves, background and the readout line.
+#pragma once
+
+#include <qcustomplot.h>
+
+#include <QImage>
+#include <string>
+
+#include "platform/UserLocale.h"
+#include "plot/Chart.h"
+
+namespace brask {
+
+class DynaPlot : public QCustomPlot {
+    Q_OBJECT
+
+  public:
+    // Chart and locale must outlive the widget. Shows nothing before the first ShowChart().
+    DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent = nullptr);
+
+    // Takes over the chart's whole state and draws it; a hidden widget draws once it is shown.
+    void ShowChart();
+
+    // The chart as ShowChart() last took it over, drawn at this size in pixels, whatever the
+    // widget's own size and the screen's pixel ratio. A side of less than one pixel counts as one.
+    QImage Picture(QSize size);
+
+  private:
+    void AddTexts();
+    void ShowTitle();
+    void ShowAxes();
+    void ShowXAxis();
+    void ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale);
+    void ShowBackground();
+    QPixmap BackgroundPicture();
+    std::size_t MostDateLabels() const;
+
+    const Chart& chart_;
+    const UserLocale& locale_;
+    QCPTextElement* title_ = nullptr;  // these three belong to the plot's layout
+    QCPTextElement* caption_ = nullptr;
+    QCPTextElement* readout_ = nullptr;
+    QPixmap picture_;  // the background, as read from pictureFile_
+    std::string pictureFile_;
+};
+
+}  // namespace brask
