@@ -1,10 +1,13 @@
 // brask: what the window does to data, from a shell.
 #include <array>
 
+#include "cli/CurvesCommand.h"
 #include "cli/ExpandCommand.h"
 #include "cli/HelpCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/ListCommand.h"
+#include "cli/PlotCommand.h"
+#include "cli/PlotRequest.h"
 #include "cli/SettingsCommand.h"
 #include "cli/Shell.h"
 
@@ -16,6 +19,10 @@ const auto kCommands = std::to_array<brask::CommandRow>({
     {"info", "FILE", TextRow("cli", "describe a data file"), {}, 1, 1, brask::RunInfo},
     {"list", "FILE", TextRow("cli", "print readings as CSV"), brask::ListOptions(), 1, 1,
      brask::RunList},
+    {"curves", "FILE", TextRow("cli", "print what the plot consists of"), brask::CurvesOptions(), 1,
+     1, brask::RunCurves},
+    {"plot", "FILE -o PICTURE", TextRow("cli", "draw the plot into a picture file"),
+     brask::DrawingOptions(), 1, 1, brask::RunPlot},
     {"expand", "RAW -o OUT", TextRow("cli", "expand a received stream into a data file"),
      brask::ExpandOptions(), 1, 1, brask::RunExpand},
     {"settings",

@@ -1,0 +1,47 @@
+#include "cli/PlotCommand.h"
+
+#include "cli/CliTexts.h"
+#include "cli/Shell.h"
+
+namespace brask {
+namespace {
+
+constexpr const char* kDrawingProgram = "brask-plot";
+
+std::string DrawingProgram(NativeSystem& system) {
+    const std::string directory = system.Information().ProgramDirectory();
+    for (const char* place : {"/", "/../libexec/brasklite/"}) {
+        std::string path = directory + place + kDrawingProgram;
+        if (system.Disk().Exists(path)) return path;
+    }
+    return kDrawingProgram;
+}
+
+}  // namespace
+
+ExitStatus RunPlot(Shell& shell, const CommandLine& line) {
+    const auto request = ReadPlotRequest(line, shell.Words);
+    if (!request.Ok()) return WrongUsage(request.Why().Reason);
+    const Error error =
+        shell.System.OtherPrograms().Become(DrawingProgram(shell.System), shell.Arguments);
+    ShowFailure(shell, shell.Words.Fill(cli_texts::kCannotStart, {kDrawingProgram, error.Reason}));
+    if (line.Has("json")) WritePlotDocument(shell, std::nullopt);
+    return ExitStatus::kFailed;
+}
+
+void WritePlotDocument(Shell& shell, const std::optional<PlotRequest>& written) {
+    JsonWriter json(shell.Out);
+    json.BeginObject();
+    if (written) {
+        json.Member("picture", written->Picture);
+        json.IntegerMember("width", written->Width);
+        json.IntegerMember("height", written->Height);
+    } else {
+        json.NullMember("picture");
+        json.NullMember("width");
+        json.NullMember("height");
+    }
+    EndDocument(shell, json);
+}
+
+}  // namespace brask
