@@ -16,7 +16,7 @@ namespace brask {
 inline constexpr double kSecondsPerDay = 86400.0;
 // The bounds within which a period of the plot may be chosen: 1 January 2000, 12 December 9999.
 inline constexpr double kEarliestDisplayDate = 36526.0;
-inline constexpr double kLatestDisplayDate = 2958445.0;
+inline constexpr double kLatestDisplayDate = 2958446.0;
 
 // Days since 30 December 1899 of a calendar date (proleptic Gregorian calendar).
 std::int64_t DaysFromCivil(const CivilDate& date);
