@@ -115,6 +115,8 @@ Status MemoryFiles::Remove(const std::string& path) {
 Status MemoryFiles::MakeDirectory(const std::string& path) {
     if (Status step = Step(); !step.Ok()) return step;
     if (Exists(path)) return SystemError(EEXIST);
+    const std::string parent = path.substr(0, path.find_last_of('/'));
+    if (!parent.empty() && !IsDirectory(parent)) return SystemError(ENOENT);
     Directories.insert(path);
     return {};
 }
