@@ -135,6 +135,10 @@ TEST(DataFileReader, TheFastPathReadsWhatTheGeneralPathReads) {
         ASSERT_EQ(line.size(), FixedLineParser::kLineLength);
         EXPECT_EQ(EverythingOf(line, 64, {}), EverythingOf(line, 1, {})) << values;
     }
+    for (const std::string& date : {std::string(12, '\0'), std::string("DEC-30-1899 ")}) {
+        const std::string line = date + kLine.substr(12);
+        EXPECT_EQ(EverythingOf(line, 64, {}), EverythingOf(line, 1, {}));
+    }
 }
 
 TEST(DataFileReader, HeaderLines) {
