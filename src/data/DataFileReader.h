@@ -44,7 +44,7 @@ class ReadObserver {
 
 struct ReadOptions {
     LongDateOrder DateOrder = LongDateOrder::kMonthDayYear;
-    TemperatureUnit Unit;
+    TemperatureUnit Unit = TemperatureUnit();
 };
 
 struct ReadSummary {

@@ -94,7 +94,9 @@ class FixedLineParser {
         return true;
     }
 
-    char dateText_[12] = {};  // with the blank behind it
+    // The date of the line before, with the blank behind it, and its serial; a true pair from the
+    // start, since a file can hold any twelve bytes.
+    char dateText_[12] = {'D', 'E', 'C', '-', '3', '0', '-', '1', '8', '9', '9', ' '};
     double day_ = 0;
 };
 

@@ -115,7 +115,8 @@ Status MemoryFiles::Remove(const std::string& path) {
 Status MemoryFiles::MakeDirectory(const std::string& path) {
     if (Status step = Step(); !step.Ok()) return step;
     if (Exists(path)) return SystemError(EEXIST);
-    if (!Directories.contains(path.substr(0, path.find_last_of('/')))) return SystemError(ENOENT);
+    const std::string parent = path.substr(0, path.find_last_of('/'));
+    if (!parent.empty() && !IsDirectory(parent)) return SystemError(ENOENT);
     Directories.insert(path);
     return {};
 }

@@ -1,0 +1,150 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/DataFileLoader.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/simulated/ManualClock.h"
+#include "platform/simulated/MemoryFiles.h"
+#include "platform/simulated/ScriptedUserInterface.h"
+
+namespace brask {
+namespace {
+
+using testing::ElementsAre;
+
+const std::string kLine = "JAN-01-2003 00:05:12,    0.1,  26.1\r\n";
+
+class DataFileLoaderTest : public testing::Test {
+  protected:
+    LoadOutcome Load(const std::string& path, const std::string& content) {
+        disk_.Contents[path] = content;
+        data_.CurrentDataFile = path;
+        return loader_.LoadDataFile({});
+    }
+    std::string LogText() { return disk_.Contents["/home/log/VEKLog.Txt"]; }
+
+    MemoryFiles disk_;
+    ManualClock clock_;
+    ScriptedUserInterface user_;
+    EnglishTexts texts_;
+    DataSet data_;
+    DiagnosticLog log_{disk_, clock_};
+    DataFileLoader loader_{data_, user_, texts_, disk_, log_};
+};
+
+TEST_F(DataFileLoaderTest, ExactMessagesOfBadLines) {
+    const std::string behind = "\r\nIgnoring this line of data";
+    EXPECT_EQ(Load("/f.csv",
+                   "JAN-01-2003 00:05:12,    abc,  26.1\r\n"
+                   "FEB-30-2003 00:05:12,    0.1,  26.1\r\n"
+                   "JAN-01-2003 00:05:12,    0.1,  2\xB0"
+                   "C\r\n" +
+                       kLine),
+              LoadOutcome::kRead);
+    EXPECT_THAT(
+        user_.ShownTexts(),
+        ElementsAre("Gas PPM   26.1 is invalid\r\n"
+                    "Original Line=JAN-01-2003 00:05:12,    abc,  26.1" +
+                        behind,
+                    "Date of FEB-30-2003 00:05:12 [Input as FEB-30-2003 00:05:12] is invalid\r\n"
+                    "Original Line=FEB-30-2003 00:05:12,    0.1,  26.1" +
+                        behind,
+                    "Temperature of   2°C is invalid\r\n"
+                    "Original Line=JAN-01-2003 00:05:12,    0.1,  2°C" +
+                        behind));
+    EXPECT_EQ(user_.Shown[0].Title, "VEK Talvex© K42   Brask Lite");
+    EXPECT_EQ(loader_.RejectedLines(), 3);
+    EXPECT_THAT(user_.Begun, ElementsAre(ProgressMode::kReadingFile));
+}
+
+TEST_F(DataFileLoaderTest, MessagesCanBeSwitchedOffForOneLoad) {
+    std::string ruined = kLine;
+    for (int i = 0; i < 1000; ++i) ruined += "JAN-01-2003 00:05:12,x,26.1\r\n";
+    user_.RepeatedWanted = 2;
+    EXPECT_EQ(Load("/f.csv", ruined), LoadOutcome::kRead);
+    EXPECT_EQ(user_.Shown.size(), 2U);
+    EXPECT_EQ(loader_.RejectedLines(), 1000);
+    user_.RepeatedWanted = 1 << 30;
+    Load("/f.csv", ruined);
+    EXPECT_EQ(user_.Shown.size(), 1002U) << "the next load shows them again";
+}
+
+TEST_F(DataFileLoaderTest, LoadsWithoutReadings) {
+    EXPECT_EQ(loader_.LoadDataFile({}), LoadOutcome::kNoFile);
+    EXPECT_TRUE(user_.Shown.empty());
+    EXPECT_EQ(Load("/f.csv", "GAS: CO\r\n"), LoadOutcome::kNothingRead);
+    EXPECT_THAT(user_.ShownTexts(), ElementsAre("No data was read"));
+    EXPECT_EQ(data_.CurrentDataFile, "/f.csv");
+    EXPECT_TRUE(user_.Notices.empty());
+
+    EXPECT_EQ(Load("/lf.csv", kLine.substr(0, 35) + "\nGAS: CO\n"), LoadOutcome::kNothingRead);
+    ASSERT_EQ(user_.Notices.size(), 1U);
+    EXPECT_EQ(user_.Notices[0].substr(0, 6), "lf.csv");
+}
+
+TEST_F(DataFileLoaderTest, TempDirectoriesAreNotRead) {
+    for (const char* path : {"/temp/f.csv", "/a/Temp/b/f.csv", "/TEMP/f.csv"}) {
+        EXPECT_EQ(Load(path, kLine), LoadOutcome::kNothingRead) << path;
+    }
+    EXPECT_NE(LogText().find("/a/Temp/b/f.csv"), std::string::npos);
+    for (const char* path : {"/tmp/f.csv", "/temp2/f.csv", "/a/temp", "/my temp/f.csv"}) {
+        EXPECT_EQ(Load(path, kLine), LoadOutcome::kRead) << path;
+    }
+}
+
+TEST_F(DataFileLoaderTest, AFileThatCannotBeReadSaysWhy) {
+    data_.CurrentDataFile = "/none.csv";
+    EXPECT_EQ(loader_.LoadDataFile({}), LoadOutcome::kNothingRead);
+    EXPECT_THAT(user_.ShownTexts(), ElementsAre("Cannot read /none.csv: No such file or directory",
+                                                "No data was read"));
+    user_.Shown.clear();
+    disk_.Operations = 0;
+    disk_.FailAt = 2;  // open, the block, the next one
+    EXPECT_EQ(Load("/f.csv", kLine), LoadOutcome::kRead);
+    EXPECT_THAT(user_.ShownTexts(), ElementsAre("Cannot read /f.csv: Input/output error"));
+}
+
+TEST_F(DataFileLoaderTest, CancelAndEndLeaveNothingAndSayNothing) {
+    std::string many;
+    for (int i = 0; i < 5000; ++i) many += kLine;
+    Load("/f.csv", many);
+    EXPECT_EQ(data_.ReadingCount, 5000);
+    EXPECT_EQ(user_.Progress.back(), 5000);
+    int turns = 0;
+    user_.OnEvents = [&] { user_.Cancelled = ++turns == 5; };
+    EXPECT_EQ(Load("/f.csv", many), LoadOutcome::kCancelled);
+    EXPECT_EQ(data_.ReadingCount, 0);
+    user_.Cancelled = false;
+    user_.OnEvents = [&] { user_.EndProgram(); };
+    EXPECT_EQ(Load("/f.csv", "JAN-01-2003 00:05:12,x,26.1\r\n"), LoadOutcome::kCancelled);
+    EXPECT_TRUE(user_.Shown.empty());
+}
+
+TEST_F(DataFileLoaderTest, TooLongLinesGoToTheLogWithTheirNumber) {
+    EXPECT_EQ(Load("/f.csv", kLine + std::string((1 << 20) + 1, 'x') + "\r\n" + kLine),
+              LoadOutcome::kRead);
+    EXPECT_EQ(LogText(),
+              "[05-Mar-2004 13:30:00] /f.csv, line 2: longer than 1 MiB, dropped to its end\r\n");
+    EXPECT_EQ(data_.ReadingCount, 2);
+    EXPECT_EQ(loader_.RejectedLines(), 0);
+    EXPECT_TRUE(user_.Shown.empty());
+}
+
+TEST_F(DataFileLoaderTest, TheSampleFiles) {
+    PosixFiles disk;
+    DataFileLoader loader(data_, user_, texts_, disk, log_);
+    const std::pair<const char*, std::int32_t> samples[] = {{"/air-quality-april.csv", 468},
+                                                            {"/air-quality-year.csv", 7344}};
+    for (const auto& [name, count] : samples) {
+        data_.CurrentDataFile = BRASK_SAMPLES + std::string(name);
+        EXPECT_EQ(loader.LoadDataFile({}), LoadOutcome::kRead);
+        EXPECT_EQ(data_.ReadingCount, count);
+        EXPECT_TRUE(user_.Shown.empty());
+    }
+    data_.CurrentDataFile = BRASK_SAMPLES;
+    EXPECT_EQ(loader.LoadDataFile({}), LoadOutcome::kNothingRead);
+    EXPECT_NE(user_.Shown[0].Text.find("Is a directory"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace brask
