@@ -1,5 +1,5 @@
 // The user at a terminal: messages and notices go to standard error, questions take their safe
-// answer, progress is a line on a terminal. Control characters in texts are written as "?".
+// answer, progress is a line on a terminal. Texts are made printable first.
 #pragma once
 
 #include <cstdio>

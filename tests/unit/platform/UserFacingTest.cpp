@@ -104,12 +104,8 @@ TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
 
 TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
     Console console({});
-    console.User.ShowMessage({"",
-                              "a\x1B]0;x\a\tb\x7F \xC2\x9B \xC2\xB0"
-                              "C"});
-    EXPECT_EQ(console.Written(),
-              "a?]0;x?\tb? \xC2? \xC2\xB0"
-              "C\n");
+    console.User.ShowMessage({"", "a\x1B]0;x\a\tb\x7F \xC2\x9B °C"});
+    EXPECT_EQ(console.Written(), "a\uFFFD]0;x\uFFFD\tb\uFFFD \uFFFD °C\n");
 }
 
 TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
