@@ -1,0 +1,99 @@
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "ProgramRunner.h"
+
+namespace brask {
+namespace {
+
+class BraskUsage : public ProgramTest {};
+
+TEST_F(BraskUsage, WrongUsageIsOneLineAndStatusTwo) {
+    struct Case {
+        std::vector<std::string> Arguments;
+        const char* Reason;
+    };
+    const std::vector<Case> cases = {
+        {{}, "no command given"},
+        {{"merge", "a", "b"}, "unknown command \"merge\""},
+        {{"two\nlines"}, "unknown command \"two lines\""},
+        {{"help", "verify"}, "unknown command \"verify\""},
+        {{"info"}, "an argument is missing"},
+        {{"info", "a", "b"}, "one argument too many"},
+        {{"info", "a", "--date-order", "dym"}, "--date-order"},
+        {{"list", "a", "--start", "-1"}, "--start"},
+        {{"list", "a", "--count", "many"}, "--count"},
+        {{"curves", "a", "--layout", "years"}, "--layout"},
+        {{"plot", "a"}, "-o is missing"},
+        {{"plot", "a", "-o", "a.jpg"}, "neither .bmp nor .png"},
+        {{"plot", "a", "-o", "a.png", "--limit", "3"}, "no option --limit"},
+        {{"expand", "a"}, "-o is missing"},
+        {{"settings", "get"}, "settings get KEY"},
+        {{"settings", "reset", "a", "b"}, "settings get KEY"},
+    };
+    for (const Case& c : cases) {
+        const Finished finished = Run(c.Arguments);
+        const std::string words = testing::PrintToString(c.Arguments);
+        EXPECT_EQ(finished.Status, 2) << words;
+        EXPECT_EQ(finished.Out, "") << words;
+        EXPECT_EQ(finished.Error.rfind("brask: ", 0), 0U) << finished.Error;
+        EXPECT_NE(finished.Error.find(c.Reason), std::string::npos) << finished.Error;
+        EXPECT_EQ(std::count(finished.Error.begin(), finished.Error.end(), '\n'), 1) << words;
+    }
+    EXPECT_EQ(Listing(), "");
+}
+
+std::string ShareFile(const std::string& name) {
+    std::ifstream file(std::string(BRASK_SHARE) + "/" + name);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The words that begin lines of a help text: its commands and options.
+std::vector<std::string> Listed(const std::string& help) {
+    std::vector<std::string> words;
+    std::istringstream lines(help);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind("  ", 0) == 0) words.push_back(line.substr(2, line.find(' ', 2) - 2));
+    }
+    return words;
+}
+
+TEST_F(BraskUsage, HelpManualAndCompletionNameTheSameThings) {
+    const std::string manual = ShareFile("man/brask.1");
+    const std::string completion = ShareFile("bash-completion/brask");
+    const std::vector<std::string> words = Listed(Run({"help"}).Out);
+    ASSERT_GE(words.size(), 17U);
+    for (const std::string& word : words) {
+        std::vector<std::string> names{word};
+        if (word[0] != '-') {
+            EXPECT_NE(manual.find(".Cm " + word), std::string::npos) << word;
+            const Finished help = Run({word, "--help"});
+            EXPECT_EQ(help.Status, 0) << word;
+            EXPECT_EQ(Run({"help", word}).Out, help.Out);
+            names = Listed(help.Out);
+        }
+        for (const std::string& name : names) {
+            // in the manual's language a dash of an option is the macro's
+            const bool inManual = manual.find("Fl " + name.substr(1)) != std::string::npos ||
+                                  manual.find(", " + name.substr(1)) != std::string::npos ||
+                                  word == name;
+            EXPECT_TRUE(inManual) << word << " " << name;
+            EXPECT_NE(completion.find(name), std::string::npos) << word << " " << name;
+        }
+    }
+    EXPECT_EQ(Run({"--version"}).Out, Run({"info", "--version"}).Out);
+}
+
+TEST_F(BraskUsage, AResultThatCannotBeWrittenIsAFailure) {
+    const std::string file = Write("a.csv", DataLine("JAN-01-2003 00:05:12", "0.1", "26.1"));
+    for (const char* command : {"info", "list", "curves"}) {
+        const Finished finished = Run({command, file}, "brask", "/dev/full");
+        EXPECT_EQ(finished.Status, 1) << command;
+        EXPECT_EQ(finished.Error, "brask: cannot write the result: No space left on device\n");
+    }
+}
+
+}  // namespace
+}  // namespace brask

@@ -1,0 +1,121 @@
+#include "ProgramRunner.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+namespace brask {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Content(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace
+
+ProgramTest::ProgramTest() {
+    std::string name = (fs::temp_directory_path() / "brask-system-XXXXXX").string();
+    home_ = mkdtemp(name.data());
+    for (const auto& [key, folder] : {std::pair("HOME", ""), std::pair("XDG_CONFIG_HOME", "config"),
+                                      std::pair("XDG_STATE_HOME", "state")}) {
+        setenv(key, (home_ / folder).c_str(), 1);
+    }
+    setenv("LC_ALL", "C.UTF-8", 1);
+}
+
+ProgramTest::~ProgramTest() {
+    std::error_code ignored;
+    fs::remove_all(home_, ignored);
+}
+
+Finished ProgramTest::Run(const std::vector<std::string>& arguments, const std::string& program,
+                          const std::string& out) const {
+    // beside the home, so that listings of it show only what the programs made
+    const std::string outPath = out.empty() ? home_.string() + ".out" : out;
+    const std::string errorPath = home_.string() + ".err";
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC;
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, outPath.c_str(), kFlags, 0600);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errorPath.c_str(), kFlags, 0600);
+
+    std::vector<std::string> words{std::string(BRASK_BIN) + "/" + program};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers;
+    for (std::string& word : words) pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    pid_t child = 0;
+    const int spawned =
+        posix_spawn(&child, pointers[0], &actions, nullptr, pointers.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    EXPECT_EQ(spawned, 0) << pointers[0];
+    int state = 0;
+    if (spawned != 0 || waitpid(child, &state, 0) != child) return {};
+
+    Finished finished{WIFEXITED(state) ? WEXITSTATUS(state) : -1,
+                      out.empty() ? Content(outPath) : "", Content(errorPath)};
+    if (out.empty()) fs::remove(outPath);
+    fs::remove(errorPath);
+    return finished;
+}
+
+rapidjson::Document ProgramTest::Json(std::vector<std::string> arguments,
+                                      int expectedStatus) const {
+    arguments.emplace_back("--json");
+    const Finished finished = Run(arguments);
+    EXPECT_EQ(finished.Status, expectedStatus) << finished.Error;
+    rapidjson::Document document;
+    document.Parse<rapidjson::kParseFullPrecisionFlag | rapidjson::kParseValidateEncodingFlag>(
+        finished.Out.c_str());
+    EXPECT_FALSE(document.HasParseError()) << finished.Out;
+    return document;
+}
+
+std::string ProgramTest::Write(const std::string& name, const std::string& bytes) const {
+    fs::create_directories((home_ / name).parent_path());
+    std::ofstream(home_ / name, std::ios::binary) << bytes;
+    return At(name);
+}
+
+std::string ProgramTest::Read(const std::string& name) const { return Content(home_ / name); }
+
+std::string ProgramTest::Listing() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::recursive_directory_iterator(home_)) {
+        names.push_back(entry.path().lexically_relative(home_).string());
+    }
+    std::sort(names.begin(), names.end());
+    std::string listing;
+    for (const std::string& name : names) listing += (listing.empty() ? "" : " ") + name;
+    return listing;
+}
+
+std::string DataLine(const std::string& time, const std::string& gas, const std::string& celsius) {
+    return time + "," + gas + "," + celsius + "\r\n";
+}
+
+std::string KeysOf(const rapidjson::Value& object) {
+    std::string keys;
+    for (const auto& member : object.GetObject()) {
+        keys += (keys.empty() ? "" : " ") + std::string(member.name.GetString());
+    }
+    return keys;
+}
+
+std::vector<std::string> MessagesOf(const rapidjson::Value& document) {
+    std::vector<std::string> texts;
+    for (const auto& text : document["messages"].GetArray()) texts.emplace_back(text.GetString());
+    return texts;
+}
+
+}  // namespace brask
