@@ -33,8 +33,8 @@ void LoadDataFile(benchmark::State& state) {
     state.counters["readings"] = readings;
 }
 
-BENCHMARK(LoadReference)->Unit(benchmark::kMillisecond)->Repetitions(5);
-BENCHMARK(LoadDataFile)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(LoadReference)->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadDataFile)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
