@@ -11,7 +11,7 @@
 namespace brask {
 namespace {
 
-constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 // Events get their turn once per so many candidate lines: some 10 µs, far below what anyone sees.
 constexpr std::uint32_t kLinesPerTurn = 256;
 constexpr std::int32_t kReadingsPerReport = 100;
