@@ -11,7 +11,7 @@
 namespace brask {
 namespace {
 
-constexpr std::size_t kBlockSize = 256 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 // Events get their turn once per so many candidate lines: some 10 µs, far below what anyone sees.
 constexpr std::uint32_t kLinesPerTurn = 256;
 constexpr std::int32_t kReadingsPerReport = 100;
@@ -97,17 +97,45 @@ void DataFileReader::ReadBlock(std::string_view block) {
 // Reads lines of the fixed form from the start of the block for as long as they come; the number
 // of bytes that they take.
 std::size_t DataFileReader::ReadFixedLines(std::string_view block) {
-    const char* const start = block.data();
-    const char* line = start;
     FixedReading reading{};
-    for (std::size_t left = block.size(); left >= FixedLineParser::kLineLength;
-         left -= FixedLineParser::kLineLength) {
-        if (!fixed_.Parse(line, reading) || !MayGoOn()) break;
+    std::size_t read = 0;
+    for (;;) {
+        read += ReadQuietLines(block.substr(read)) * FixedLineParser::kLineLength;
+        if (block.size() - read < FixedLineParser::kLineLength ||
+            !fixed_.Parse(block.data() + read, reading) || !MayGoOn()) {
+            return read;
+        }
         ++lineNumber_;
         Append(reading.Time, reading.Gas, reading.Celsius);
+        read += FixedLineParser::kLineLength;
+    }
+}
+
+// The inner loop of loading: lines of the fixed form up to the next at which events get their turn,
+// progress is told or the arrays grow. The number of lines read.
+std::size_t DataFileReader::ReadQuietLines(std::string_view block) {
+    const auto count = static_cast<std::size_t>(data_.ReadingCount);
+    constexpr std::size_t kPerReport = kReadingsPerReport;
+    const std::size_t most =
+        std::min({block.size() / FixedLineParser::kLineLength, kPerReport - 1 - count % kPerReport,
+                  std::size_t{(kLinesPerTurn - candidates_ % kLinesPerTurn) % kLinesPerTurn},
+                  data_.ReadingTime.size() - count});
+    double* const times = data_.ReadingTime.data() + count;
+    double* const gas = data_.GasPpm.data() + count;
+    double* const temperatures = data_.Temperature.data() + count;
+    const TemperatureUnit unit = options_.Unit;
+    FixedReading reading{};
+    std::size_t lines = 0;
+    for (const char* line = block.data(); lines < most && fixed_.Parse(line, reading); ++lines) {
+        times[lines] = reading.Time;
+        gas[lines] = reading.Gas;
+        temperatures[lines] = unit.ToDisplayTemperature(reading.Celsius);
         line += FixedLineParser::kLineLength;
     }
-    return static_cast<std::size_t>(line - start);
+    data_.ReadingCount += static_cast<std::int32_t>(lines);
+    lineNumber_ += static_cast<std::int64_t>(lines);
+    candidates_ += static_cast<std::uint32_t>(lines);
+    return lines;
 }
 
 void DataFileReader::KeepForNextBlock(std::string_view part) {

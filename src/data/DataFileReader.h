@@ -70,6 +70,7 @@ class DataFileReader {
   private:
     void ReadBlock(std::string_view block);
     std::size_t ReadFixedLines(std::string_view block);
+    std::size_t ReadQuietLines(std::string_view block);
     void EndLine(std::string_view end);
     void KeepForNextBlock(std::string_view part);
     void AcceptReadingLine(std::string_view line);

@@ -23,7 +23,7 @@ void DiagnosticLog::CutToLastBytes() {
     auto opened = files_.Open(path_);
     if (!opened.Ok() || opened.Value()->Size() <= kKeptBytes) return;
     std::string kept;
-    std::string block(64 * 1024, '\0');
+    std::string block(std::size_t{64} * 1024, '\0');
     for (;;) {
         const auto read = opened.Value()->Read(block);
         if (!read.Ok()) return;

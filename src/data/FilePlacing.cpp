@@ -17,7 +17,7 @@ Status CopyWhole(Files& files, const std::string& source, const std::string& des
         const auto read = opened.Value()->Read(block);
         if (!read.Ok()) return read.Why();
         if (read.Value() == 0) return started.Value()->Commit();
-        const Status written = started.Value()->Write({block.data(), read.Value()});
+        Status written = started.Value()->Write({block.data(), read.Value()});
         if (!written.Ok()) return written;
     }
 }

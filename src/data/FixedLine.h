@@ -4,9 +4,12 @@
 //
 // time stamp in 20 characters, gas in 7, temperature in 6. The widths and every character are
 // checked; whatever is not of this form is left to the general path, which gives the same values.
+// The fields are taken eight characters at a time, as the bytes of one number.
 #pragma once
 
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 
@@ -31,9 +34,14 @@ class FixedLineParser {
         if (line[20] != ',' || line[28] != ',' || line[35] != '\r' || line[36] != '\n') {
             return false;
         }
+        // ",ddddd.d" and ",dddd.d\r": the digits move together, to the high end of the eight bytes
+        const std::uint64_t gas = EightAt(line + 20);
+        const std::uint64_t celsius = EightAt(line + 28);
         int seconds = 0;
-        if (!TimeOfDay(line + 12, seconds) || !Decimal(line + 21, 7, reading.Gas) ||
-            !Decimal(line + 29, 6, reading.Celsius)) {
+        if (line[26] != '.' || line[33] != '.' || !TimeOfDay(EightAt(line + 12), seconds) ||
+            !Decimal((gas & 0x0000'FFFF'FFFF'FF00) << 8 | (gas & kHighestByte), 2, reading.Gas) ||
+            !Decimal((celsius & 0x0000'00FF'FFFF'FF00) << 16 | (celsius << 8 & kHighestByte), 3,
+                     reading.Celsius)) {
             return false;
         }
         // files are in time order, so the date is nearly always that of the line before
@@ -43,42 +51,62 @@ class FixedLineParser {
     }
 
   private:
-    static bool Digit(char c, int& digit) {
-        digit = c - '0';
-        return digit >= 0 && digit <= 9;
+    static constexpr std::uint64_t kHighestByte = 0xFF00'0000'0000'0000;
+    static constexpr std::uint64_t kEachByte = 0x0101'0101'0101'0101;
+
+    // Eight characters, the first in the lowest byte.
+    static std::uint64_t EightAt(const char* text) {
+        static_assert(std::endian::native == std::endian::little,
+                      "another byte order needs its bytes turned round here");
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, text, sizeof eight);
+        return eight;
     }
 
-    // "hh:mm:ss", eight characters.
-    static bool TimeOfDay(const char* text, int& seconds) {
-        if (text[2] != ':' || text[5] != ':') return false;
-        int h1 = 0, h2 = 0, m1 = 0, m2 = 0, s1 = 0, s2 = 0;
-        const bool digits = int{Digit(text[0], h1)} & int{Digit(text[1], h2)} &
-                            int{Digit(text[3], m1)} & int{Digit(text[4], m2)} &
-                            int{Digit(text[6], s1)} & int{Digit(text[7], s2)};
-        const int hours = h1 * 10 + h2;
-        if (!digits || hours > 23 || m1 > 5 || s1 > 5) return false;
-        seconds = hours * 3600 + (m1 * 10 + m2) * 60 + s1 * 10 + s2;
-        return true;
+    // Whether every byte is 0 to 9.
+    static bool AllDigits(std::uint64_t bytes) {
+        return (((bytes + kEachByte * (0x7F - 9)) | bytes) & kEachByte * 0x80) == 0;
     }
 
-    // Leading blanks, an optional "-", then digits with one digit behind a point: "    0.1". Up to
-    // six digits fit a double exactly, and one division rounds as a full parse would.
-    static bool Decimal(const char* text, int width, double& value) {
-        int at = 0;
-        while (at < width - 3 && text[at] == ' ') ++at;
-        const bool negative = text[at] == '-';
-        if (negative) ++at;
-        int tenths = 0;
-        int digit = 0;
-        if (at >= width - 2 || text[width - 2] != '.') return false;
-        for (; at < width - 2; ++at) {
-            if (!Digit(text[at], digit)) return false;
-            tenths = tenths * 10 + digit;
-        }
-        if (!Digit(text[width - 1], digit)) return false;
-        tenths = tenths * 10 + digit;
+    // The number of eight digits 0 to 9, the first in the lowest byte: neighbours join to pairs,
+    // pairs to fours, fours to the whole.
+    static std::uint64_t Joined(std::uint64_t digits) {
+        digits = digits * 10 + (digits >> 8);
+        constexpr std::uint64_t kPairs = 0x0000'00FF'0000'00FF;
+        return ((digits & kPairs) * (100 + (std::uint64_t{1000000} << 32)) +
+                ((digits >> 16) & kPairs) * (1 + (std::uint64_t{10000} << 32))) >>
+               32;
+    }
+
+    // "hh:mm:ss".
+    static bool TimeOfDay(std::uint64_t text, int& seconds) {
+        constexpr std::uint64_t kColons = 0x0000'FF00'00FF'0000;
+        if ((text & kColons) != (kEachByte * ':' & kColons)) return false;
+        const std::uint64_t digits = (text & ~kColons) ^ (kEachByte * '0' & ~kColons);
+        if (!AllDigits(digits)) return false;
+        const std::uint64_t pairs = digits * 10 + (digits >> 8);
+        const auto hours = static_cast<int>(pairs & 0xFF);
+        const auto minutes = static_cast<int>((pairs >> 24) & 0xFF);
+        const auto last = static_cast<int>((pairs >> 48) & 0xFF);
+        seconds = hours * 3600 + minutes * 60 + last;
+        return hours < 24 && minutes < 60 && last < 60;
+    }
+
+    // Blanks from byte `first` on, an optional "-", then digits up to byte 6 and the tenth in byte
+    // 7; the bytes below `first` are 0. Up to six digits fit a double exactly, and one division
+    // rounds as a full parse would.
+    static bool Decimal(std::uint64_t text, int first, double& value) {
+        const std::uint64_t notBlank =
+            (text ^ kEachByte * ' ') & (~std::uint64_t{0} << (8 * first));
+        int shift = std::countr_zero(notBlank) & ~7;  // down to the first that is no blank
+        constexpr int kLastWhole = 48;
+        if (shift > kLastWhole) return false;
+        const bool negative = ((text >> shift) & 0xFF) == '-';
+        if (negative && (shift += 8) > kLastWhole) return false;
+        const std::uint64_t digits = (text ^ kEachByte * '0') & (~std::uint64_t{0} << shift);
+        if (!AllDigits(digits)) return false;
         // negated behind the division, for a "-0.0" to stay one
-        value = tenths / 10.0;
+        value = static_cast<double>(static_cast<std::int64_t>(Joined(digits))) / 10.0;
         if (negative) value = -value;
         return true;
     }

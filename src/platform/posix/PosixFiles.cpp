@@ -100,12 +100,12 @@ Status PosixFiles::CopyToNew(const std::string& source, const std::string& targe
     if (!opened.Ok()) return opened.Why();
     auto started = posix::PosixReplacementFile::Start(target, true);
     if (!started.Ok()) return started.Why();
-    std::string block(256 * 1024, '\0');
+    std::string block(std::size_t{256} * 1024, '\0');
     for (;;) {
         const auto read = opened.Value()->Read(block);
         if (!read.Ok()) return read.Why();
         if (read.Value() == 0) return started.Value()->Commit();
-        const Status written = started.Value()->Write({block.data(), read.Value()});
+        Status written = started.Value()->Write({block.data(), read.Value()});
         if (!written.Ok()) return written;
     }
 }

@@ -9,7 +9,7 @@
 namespace brask::posix {
 namespace {
 
-constexpr std::size_t kPendingLimit = 256 * 1024;
+constexpr std::size_t kPendingLimit = std::size_t{256} * 1024;
 
 std::string DirectoryOf(const std::string& path) {
     const auto slash = path.find_last_of('/');

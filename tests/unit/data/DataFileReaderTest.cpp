@@ -212,7 +212,7 @@ TEST(DataFileReader, LineFeedsAloneEndNoLine) {
     const std::string line = kLine.substr(0, 35) + "\n";
     std::string many;
     while (many.size() < DataFileReader::kLongestLine + 10) many += line;
-    for (const std::string& text : {line + line + line, many}) {
+    for (const std::string& text : {line, many}) {
         Reading reading;
         reading.Read(text);
         EXPECT_EQ(reading.Data.ReadingCount, 0);
