@@ -19,11 +19,15 @@ void Commands::Run(const std::string& name) {
     if (!Enabled(name)) return;
     // a copy: the work may register commands anew
     const std::function<void()> work = work_.at(name);
+    Guard(name, work);
+}
+
+void Commands::Guard(const std::string& operation, const std::function<void()>& work) {
     try {
         work();
     } catch (const std::exception& error) {
         SetBusy(false);
-        ShowProgramError(user_, texts_, {name, error.what(), "", true});
+        ShowProgramError(user_, texts_, {operation, error.what(), "", true});
     }
 }
 

@@ -20,9 +20,11 @@ class Commands {
     void Register(const std::string& name, std::function<void()> work);
     bool Registered(const std::string& name) const { return work_.contains(name); }
 
-    // Runs a command that is enabled; anything else is ignored. What goes unexpectedly wrong in it
-    // is shown in the error dialog and goes no further.
+    // Runs a command that is enabled; anything else is ignored.
     void Run(const std::string& name);
+    // Does any work that the user has called for. What goes unexpectedly wrong in it is shown in
+    // the error dialog under the operation's name, and goes no further.
+    void Guard(const std::string& operation, const std::function<void()>& work);
     // Runs the command behind a toolbar button. A key that no button has is told to the user.
     void ToolbarButtonClick(const std::string& key);
 

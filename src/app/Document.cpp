@@ -1,5 +1,7 @@
 #include "app/Document.h"
 
+#include <exception>
+
 #include "app/AppTexts.h"
 #include "data/DataTexts.h"
 #include "data/DateTime.h"
@@ -32,7 +34,7 @@ void Document::Open(const std::string& path, DataSource source) {
     const std::string title = system_.Words.Find(data_texts::kProgramTitle);
     view_->ShowCaption(title);
 
-    const LoadOutcome outcome = session_.Loader.LoadDataFile({session_.DateOrder, session_.Unit});
+    const LoadOutcome outcome = Load();
     commands_.SetBusy(false);
     commands_.SetHasReadings(session_.Data.ReadingCount > 0);
     if (system_.User.Ended()) return;
@@ -44,6 +46,18 @@ void Document::Open(const std::string& path, DataSource source) {
     }
     view_->ShowChart();
     view_->ShowReadings();
+}
+
+LoadOutcome Document::Load() {
+    try {
+        return session_.Loader.LoadDataFile({session_.DateOrder, session_.Unit});
+    } catch (const std::exception&) {
+        // out of memory in the middle of it: the arrays may be of different lengths
+        session_.Data.Recreate(0);
+        commands_.SetHasReadings(false);
+        view_->ShowReadings();
+        throw;
+    }
 }
 
 void Document::RebuildPlot() {

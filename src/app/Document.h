@@ -49,6 +49,8 @@ class Document {
     std::int64_t RejectedLines() const { return session_.Loader.RejectedLines(); }
 
   private:
+    LoadOutcome Load();
+
     System system_;
     Session session_;
     Plotting plotting_;

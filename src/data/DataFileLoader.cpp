@@ -18,6 +18,20 @@ std::size_t ExpectedReadings(std::uint64_t fileSize) {
     return static_cast<std::size_t>(std::min(fileSize / FixedLineParser::kLineLength, kMost)) + 502;
 }
 
+// The progress window must not stay open when reading ends by an exception.
+class ProgressScope {
+  public:
+    explicit ProgressScope(UserInterface& user) : user_(user) {
+        user_.BeginProgress(ProgressMode::kReadingFile);
+    }
+    ~ProgressScope() { user_.EndProgress(); }
+    ProgressScope(const ProgressScope&) = delete;
+    ProgressScope& operator=(const ProgressScope&) = delete;
+
+  private:
+    UserInterface& user_;
+};
+
 std::string BadLineText(const Texts& texts, const LineReport& report) {
     const std::string field = Windows1252ToUtf8(report.Field);
     std::string text;
@@ -55,9 +69,10 @@ LoadOutcome DataFileLoader::LoadDataFile(const ReadOptions& options) {
         data_.Recreate(0);
         return LoadOutcome::kNoFile;
     }
-    user_.BeginProgress(ProgressMode::kReadingFile);
-    Read(options);
-    user_.EndProgress();
+    {
+        const ProgressScope progress(user_);
+        Read(options);
+    }
     if (cancelled_) {
         data_.Recreate(0);
         return LoadOutcome::kCancelled;

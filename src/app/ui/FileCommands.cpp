@@ -19,7 +19,8 @@ FileCommands::FileCommands(const System& system, const FileCommandParts& parts, 
 }
 
 void FileCommands::OpenFile(const QString& path) {
-    parts_.Shown.Open(FromQt(path), DataSource::kDiskFile);
+    parts_.Registry.Guard("mnuOpen",
+                          [&] { parts_.Shown.Open(FromQt(path), DataSource::kDiskFile); });
 }
 
 void FileCommands::mnuOpen_Click() {

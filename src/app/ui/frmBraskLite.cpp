@@ -183,13 +183,13 @@ void frmBraskLite::optGraph_Click(int index) {
     if (session_.Options.Loading()) return;
     graphOptions_->ShowGraphType(index);
     menus_->SetChecked("mnuGraphType_" + QString::number(index), true);
-    document_.SetGraphType(static_cast<GraphType>(index));
+    commands_.Guard("optGraph", [&] { document_.SetGraphType(static_cast<GraphType>(index)); });
 }
 
 void frmBraskLite::optTemperatureDisplay_Click(bool fahrenheit) {
     // a click on the button that is chosen already would convert what is converted
     if (session_.Options.Loading() || fahrenheit == session_.Unit.Fahrenheit()) return;
-    document_.SetTemperatureUnit(fahrenheit);
+    commands_.Guard("optTemperatureDisplay", [&] { document_.SetTemperatureUnit(fahrenheit); });
 }
 
 void frmBraskLite::UpdateDataCommands() {

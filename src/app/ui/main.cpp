@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
+#include <cstdio>
 #include <optional>
 
 #include "app/AppTexts.h"
@@ -33,12 +34,13 @@ std::optional<LongDateOrder> DateOrderNamed(const QString& name) {
     return std::nullopt;
 }
 
-// Ends the program with a reason when the words are wrong.
-CommandLine ParseCommandLine(const QApplication& application) {
+// What the words say; a one-line reason when they are wrong. Ends the program for --help and
+// --version.
+Result<CommandLine> ParseCommandLine(const QStringList& words) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows the readings of a gas analyser."));
-    parser.addHelpOption();
-    parser.addVersionOption();
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("data file to open"),
                                  QStringLiteral("[FILE]"));
     const QCommandLineOption settings(
@@ -52,23 +54,33 @@ CommandLine ParseCommandLine(const QApplication& application) {
                                    QStringLiteral("override the date order: mdy, dmy or ymd"),
                                    QStringLiteral("ORDER"));
     parser.addOptions({settings, root, order});
-    parser.process(application);
+    if (!parser.parse(words)) return Error{0, FromQt(parser.errorText())};
+    if (parser.isSet(help)) parser.showHelp();
+    if (parser.isSet(version)) parser.showVersion();
     const auto named = DateOrderNamed(parser.value(order));
-    if (parser.positionalArguments().size() > 1 || (parser.isSet(order) && !named)) {
-        std::fputs("brasklite: at most one FILE; --date-order takes mdy, dmy or ymd\n", stderr);
-        std::exit(kWrongUsage);
-    }
-    return {parser.positionalArguments().value(0), parser.value(settings), parser.value(root),
-            named};
+    if (parser.isSet(order) && !named) return Error{0, "--date-order takes mdy, dmy or ymd"};
+    if (parser.positionalArguments().size() > 1) return Error{0, "one FILE at most"};
+    return CommandLine{parser.positionalArguments().value(0), parser.value(settings),
+                       parser.value(root), named};
+}
+
+// Before there is an application for the windows: --help needs no display.
+Result<CommandLine> ParseCommandLine(int argc, char** argv) {
+    const QCoreApplication words(argc, argv);
+    QCoreApplication::setApplicationVersion(ToQt(std::string(ProgramVersion())));
+    return ParseCommandLine(QCoreApplication::arguments());
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("brasklite"));
-    QApplication::setApplicationVersion(ToQt(std::string(ProgramVersion())));
-    const CommandLine line = ParseCommandLine(application);
+    const auto parsed = ParseCommandLine(argc, argv);
+    if (!parsed.Ok()) {
+        std::fprintf(stderr, "brasklite: %s\n", parsed.Why().Reason.c_str());
+        return kWrongUsage;
+    }
+    const CommandLine& line = parsed.Value();
+    const QApplication application(argc, argv);
 
     NativeSystem native;
     const EnglishTexts texts;
