@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "cli/CliTexts.h"
 #include "cli/CommandSession.h"
@@ -38,7 +39,7 @@ class StampWriter {
   public:
     // Valid until the next call.
     std::string_view Stamp(double serial) {
-        const auto seconds = static_cast<std::int64_t>(serial * kSecondsPerDay + 0.5);
+        const auto seconds = std::llround(serial * kSecondsPerDay);
         constexpr std::int64_t kDay = 86400;
         if (serial < 0 || seconds / kDay != day_) {
             stamp_ = FormatReadingTime(serial);

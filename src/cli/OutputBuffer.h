@@ -27,7 +27,7 @@ class OutputBuffer {
     Status Finish();
 
   private:
-    static constexpr std::size_t kPieceSize = 64 * 1024;
+    static constexpr std::size_t kPieceSize = 65536;
 
     void Flush();
 

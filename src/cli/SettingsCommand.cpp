@@ -100,6 +100,7 @@ ExitStatus RunSettings(Shell& shell, const CommandLine& line) {
     }
 
     std::vector<ShownSetting> shown;
+    shown.reserve(keys.size());
     for (const std::string& key : keys) shown.push_back(Show(settings, shell.Words, key));
     if (line.Has("json")) {
         WriteDocument(shell, shown);

@@ -52,6 +52,7 @@ Finished ProgramTest::Run(const std::vector<std::string>& arguments, const std::
     std::vector<std::string> words{std::string(BRASK_BIN) + "/" + program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
     pid_t child = 0;

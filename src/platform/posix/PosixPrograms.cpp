@@ -12,6 +12,7 @@ Error PosixPrograms::Become(const std::string& program, std::span<const std::str
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
     ::execvp(program.c_str(), pointers.data());

@@ -29,17 +29,14 @@ TEST(PlotRequestTest, Pictures) {
         {{"-o", "a.jpg"}, ""},
         {{"-o", "a.png", "--size", "16385x1"}, ""},
         {{"-o", "a.png", "--size", "10001x10000"}, ""},
-        {{"-o", "a.png", "--size", "0x9"}, ""},
         {{"-o", "a.png", "--size", "-5x9"}, ""},
         {{"-o", "a.png", "--size", "5x9x3"}, ""},
-        {{"-o", "a.png", "--size", "5 x 9"}, ""},
         {{"-o", "a.png", "--size", "99999999999x1"}, ""},
         {{"-o", "a.png", "--from", "1/1/2004"}, ""},
         {{"-o", "a.png", "--to", "1/1/2004"}, ""},
     };
     for (const Case& c : cases) {
         const auto line = Line(c.Options);
-        ASSERT_TRUE(line.Ok());
         const auto request = ReadPlotRequest(line.Value(), EnglishTexts());
         const std::string size = request.Ok() ? std::to_string(request.Value().Width) + "x" +
                                                     std::to_string(request.Value().Height)
@@ -74,9 +71,8 @@ TEST(PlotRequestTest, Periods) {
     for (const Case& c : cases) {
         const PlotRequest request{"a.png", 1, 1, c.From, c.To};
         const auto period = ReadPeriod(request, c.Layout, c.Order, EnglishTexts());
-        ASSERT_EQ(period.Ok(), c.Expected.has_value()) << c.From << " to " << c.To;
-        if (!c.Expected) continue;
-        EXPECT_EQ(*period.Value(), *c.Expected) << c.From << " to " << c.To;
+        EXPECT_EQ(period.Ok() ? period.Value() : std::nullopt, c.Expected)
+            << c.From << " to " << c.To;
     }
     const auto none = ReadPeriod(PlotRequest(), kOverlapWeeks, kMonthDayYear, EnglishTexts());
     ASSERT_TRUE(none.Ok());
