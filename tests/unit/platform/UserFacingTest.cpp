@@ -68,7 +68,8 @@ TEST(ProgramError, RetryCancelAndOkAlone) {
 // What a console user interface wrote to its terminal.
 class Console {
   public:
-    explicit Console(ConsoleOptions options) : User(out_, Time, options) {}
+    explicit Console(bool yes, bool progress = false)
+        : User(out_, Time, ConsoleOptions{yes, progress}) {}
     ~Console() { std::fclose(out_); }
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
@@ -89,7 +90,7 @@ class Console {
 };
 
 TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
-    Console console({.Yes = false});
+    Console console(false);
     console.User.ShowMessage({"Title", "first\r\nsecond"});
     EXPECT_FALSE(console.User.AskYesNo({"Title", "Sure?"}));
     EXPECT_FALSE(console.User.AskRetry({"Title", "Again?"}));
@@ -98,12 +99,12 @@ TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
     EXPECT_EQ(console.Written(), "first\nsecond\nSure?\nAgain?\none of many\nonly a notice\n");
     EXPECT_THAT(console.User.Messages(),
                 testing::ElementsAre("first\r\nsecond", "Sure?", "Again?", "one of many"));
-    EXPECT_TRUE(Console({.Yes = true}).User.AskYesNo({"Title", "Sure?"}));
-    EXPECT_TRUE(Console({.Yes = true}).User.AskRetry({"Title", "Again?"}));
+    EXPECT_TRUE(Console(true).User.AskYesNo({"Title", "Sure?"}));
+    EXPECT_TRUE(Console(true).User.AskRetry({"Title", "Again?"}));
 }
 
 TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
-    Console console({});
+    Console console(false);
     console.User.ShowMessage({"",
                               "a\x1B]0;x\a\tb\x7F \xC2\x9B \xC2\xB0"
                               "C"});
@@ -113,7 +114,7 @@ TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
 }
 
 TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
-    Console console({.Progress = true});
+    Console console(false, true);
     console.User.BeginProgress(ProgressMode::kReadingFile);
     console.User.SetProgressCount(100);
     console.Time.Milliseconds = 250;
@@ -123,7 +124,7 @@ TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
     console.User.EndProgress();
     EXPECT_EQ(console.Written(), "\r200 Results\r\033[Kbad line\n");
 
-    Console quiet({.Progress = false});
+    Console quiet(false, false);
     quiet.User.BeginProgress(ProgressMode::kReadingFile);
     quiet.Time.Milliseconds = 10000;
     quiet.User.SetProgressCount(100);
