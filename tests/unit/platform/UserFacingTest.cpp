@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "platform/ProgramError.h"
 #include "platform/Texts.h"
 #include "platform/console/ConsoleUserInterface.h"
@@ -68,7 +70,8 @@ TEST(ProgramError, RetryCancelAndOkAlone) {
 // What a console user interface wrote to its terminal.
 class Console {
   public:
-    explicit Console(ConsoleOptions options) : User(out_, Time, options) {}
+    explicit Console(bool yes, bool progress = false)
+        : User(std::make_unique<ConsoleUserInterface>(out_, Time, ConsoleOptions{yes, progress})) {}
     ~Console() { std::fclose(out_); }
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
@@ -85,45 +88,45 @@ class Console {
 
   public:
     ManualClock Time;
-    ConsoleUserInterface User;
+    std::unique_ptr<ConsoleUserInterface> User;
 };
 
 TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
-    Console console({.Yes = false});
-    console.User.ShowMessage({"Title", "first\r\nsecond"});
-    EXPECT_FALSE(console.User.AskYesNo({"Title", "Sure?"}));
-    EXPECT_FALSE(console.User.AskRetry({"Title", "Again?"}));
-    EXPECT_TRUE(console.User.ShowRepeatedMessage({"Title", "one of many"}));
-    console.User.ShowNotice("only a notice");
+    Console console(false);
+    console.User->ShowMessage({"Title", "first\r\nsecond"});
+    EXPECT_FALSE(console.User->AskYesNo({"Title", "Sure?"}));
+    EXPECT_FALSE(console.User->AskRetry({"Title", "Again?"}));
+    EXPECT_TRUE(console.User->ShowRepeatedMessage({"Title", "one of many"}));
+    console.User->ShowNotice("only a notice");
     EXPECT_EQ(console.Written(), "first\nsecond\nSure?\nAgain?\none of many\nonly a notice\n");
-    EXPECT_THAT(console.User.Messages(),
+    EXPECT_THAT(console.User->Messages(),
                 testing::ElementsAre("first\r\nsecond", "Sure?", "Again?", "one of many"));
-    EXPECT_TRUE(Console({.Yes = true}).User.AskYesNo({"Title", "Sure?"}));
-    EXPECT_TRUE(Console({.Yes = true}).User.AskRetry({"Title", "Again?"}));
+    EXPECT_TRUE(Console(true).User->AskYesNo({"Title", "Sure?"}));
+    EXPECT_TRUE(Console(true).User->AskRetry({"Title", "Again?"}));
 }
 
 TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
-    Console console({});
-    console.User.ShowMessage({"", "a\x1B]0;x\a\tb\x7F \xC2\x9B °C"});
+    Console console(false);
+    console.User->ShowMessage({"", "a\x1B]0;x\a\tb\x7F \xC2\x9B °C"});
     EXPECT_EQ(console.Written(), "a\uFFFD]0;x\uFFFD\tb\uFFFD \uFFFD °C\n");
 }
 
 TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
-    Console console({.Progress = true});
-    console.User.BeginProgress(ProgressMode::kReadingFile);
-    console.User.SetProgressCount(100);
+    Console console(false, true);
+    console.User->BeginProgress(ProgressMode::kReadingFile);
+    console.User->SetProgressCount(100);
     console.Time.Milliseconds = 250;
-    console.User.SetProgressCount(200);
-    console.User.SetProgressCount(300);
-    console.User.ShowMessage({"", "bad line"});
-    console.User.EndProgress();
+    console.User->SetProgressCount(200);
+    console.User->SetProgressCount(300);
+    console.User->ShowMessage({"", "bad line"});
+    console.User->EndProgress();
     EXPECT_EQ(console.Written(), "\r200 Results\r\033[Kbad line\n");
 
-    Console quiet({.Progress = false});
-    quiet.User.BeginProgress(ProgressMode::kReadingFile);
+    Console quiet(false, false);
+    quiet.User->BeginProgress(ProgressMode::kReadingFile);
     quiet.Time.Milliseconds = 10000;
-    quiet.User.SetProgressCount(100);
-    quiet.User.EndProgress();
+    quiet.User->SetProgressCount(100);
+    quiet.User->EndProgress();
     EXPECT_EQ(quiet.Written(), "");
 }
 
