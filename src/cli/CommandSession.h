@@ -10,9 +10,8 @@
 #include "data/DataFileLoader.h"
 #include "data/DataSet.h"
 #include "data/DiagnosticLog.h"
-#include "data/Settings.h"
+#include "data/StoredSettings.h"
 #include "data/TemperatureUnit.h"
-#include "platform/IniSettingsStore.h"
 
 namespace brask {
 
@@ -28,27 +27,18 @@ class CommandSession {
     std::int64_t RejectedLines() const { return loader_.RejectedLines(); }
     const TemperatureUnit& Unit() const { return unit_; }
     LongDateOrder DateOrder() const { return dateOrder_; }
-    Settings& Options() { return settings_; }
+    Settings& Options() { return settings_.Options(); }
     // Whether every setting could be stored so far.
     bool AllSettingsSaved() const { return allSaved_; }
 
   private:
-    void ReportDamage();
-
-    Shell& shell_;
     DiagnosticLog log_;
-    IniSettingsFile file_;
-    IniSettingsStore known_;
-    IniSettingsStore own_;
-    Settings settings_;
+    StoredSettings settings_;
     TemperatureUnit unit_;
     LongDateOrder dateOrder_;
     DataSet data_;
     DataFileLoader loader_;
     bool allSaved_ = true;
 };
-
-// The INI file that holds the user's own settings.
-std::string UserSettingsPath(const Files& files);
 
 }  // namespace brask

@@ -12,30 +12,29 @@ std::string StoredSettings::UserPath(const Files& files) {
     return files.Folder(KnownFolder::kSettings) + separator + "VEK" + separator + "Brask Lite.ini";
 }
 
-StoredSettings::StoredSettings(const Needs& needs, const std::string& path, TroubleReport report)
+StoredSettings::StoredSettings(const Needs& needs, const std::string& path, SaveFailure failed)
     : needs_(needs),
-      report_(std::move(report)),
       file_(needs.Disk, path.empty() ? UserPath(needs.Disk) : path),
       known_(file_, "Brask Lite"),
       own_(file_, "Window"),
-      settings_(known_, own_, needs.Locale,
-                [this](const std::string& key, const std::string& reason) {
-                    Report(needs_.Words.Fill(data_texts::kSettingNotSaved, {key, reason}));
-                }) {
-    if (!file_.Damage().empty()) ReportDamage();
+      settings_(
+          known_, own_, needs.Locale,
+          [this, failed = std::move(failed)](const std::string& key, const std::string& reason) {
+              const std::string line =
+                  needs_.Words.Fill(data_texts::kSettingNotSaved, {key, reason});
+              needs_.Log.WriteLog(line);
+              failed(line);
+          }),
+      damage_(file_.Damage().empty() ? "" : DamageText()) {
+    if (!damage_.empty()) needs_.Log.WriteLog(damage_);
 }
 
-void StoredSettings::Report(const std::string& line) {
-    needs_.Log.WriteLog(line);
-    report_(line);
-}
-
-void StoredSettings::ReportDamage() {
+std::string StoredSettings::DamageText() const {
     // what could not even be read was left where it is
     const bool setAside = !needs_.Disk.Exists(file_.Path());
-    Report(setAside ? needs_.Words.Fill(platform_texts::kSettingsSetAside,
+    return setAside ? needs_.Words.Fill(platform_texts::kSettingsSetAside,
                                         {file_.Path(), file_.Damage(), file_.Path() + ".bad"})
-                    : needs_.Words.Fill(data_texts::kCannotRead, {file_.Path(), file_.Damage()}));
+                    : needs_.Words.Fill(data_texts::kCannotRead, {file_.Path(), file_.Damage()});
 }
 
 }  // namespace brask

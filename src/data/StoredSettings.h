@@ -15,8 +15,8 @@ namespace brask {
 
 class StoredSettings {
   public:
-    // Told, after the log, of what went wrong with the file: one line for the user.
-    using TroubleReport = std::function<void(const std::string& line)>;
+    // Told, after the log, which setting could not be saved and why: one line for the user.
+    using SaveFailure = std::function<void(const std::string& line)>;
 
     // The system's parts that the settings need.
     struct Needs {
@@ -26,26 +26,26 @@ class StoredSettings {
         DiagnosticLog& Log;
     };
 
-    // Opens the file at path, or the user's own when the path is empty. A damaged file that was set
-    // aside and one that cannot be read are reported; defaults then serve.
-    StoredSettings(const Needs& needs, const std::string& path, TroubleReport report);
+    // Opens the file at path, or the user's own when the path is empty.
+    StoredSettings(const Needs& needs, const std::string& path, SaveFailure failed);
 
     Settings& Options() { return settings_; }
-    const std::string& Path() const { return file_.Path(); }
+    // One line for the user about a damaged file that was set aside, or one that cannot be read
+    // (defaults then serve); empty when all is well. It is in the log already.
+    const std::string& Damage() const { return damage_; }
 
     // The INI file that holds the user's own settings.
     static std::string UserPath(const Files& files);
 
   private:
-    void Report(const std::string& line);
-    void ReportDamage();
+    std::string DamageText() const;
 
     Needs needs_;
-    TroubleReport report_;
     IniSettingsFile file_;
     IniSettingsStore known_;
     IniSettingsStore own_;
     Settings settings_;
+    std::string damage_;
 };
 
 }  // namespace brask

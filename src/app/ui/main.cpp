@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QTimer>
 #include <cstdio>
+#include <exception>
 #include <optional>
 
 #include "app/AppTexts.h"
@@ -71,9 +72,7 @@ Result<CommandLine> ParseCommandLine(int argc, char** argv) {
     return ParseCommandLine(QCoreApplication::arguments());
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int RunWindow(int argc, char** argv) {
     const auto parsed = ParseCommandLine(argc, argv);
     if (!parsed.Ok()) {
         std::fprintf(stderr, "brasklite: %s\n", parsed.Why().Reason.c_str());
@@ -90,13 +89,8 @@ int main(int argc, char** argv) {
                         native.Time()};
 
     DiagnosticLog log(native.Disk(), native.Time());
-    // what goes wrong before the window stands is said when it does
-    std::string trouble;
     StoredSettings stored({native.Disk(), native.Locale(), texts, log}, FromQt(line.Settings),
-                          [&](const std::string& text) {
-                              trouble = text;
-                              user.ShowNotice(text);
-                          });
+                          [&user](const std::string& text) { user.ShowNotice(text); });
     DataSet data;
     TemperatureUnit unit(stored.Options().Number("DisplayTemperatureUnits") != 0);
     DataDirectories directories(native.Disk(), user, texts);
@@ -119,9 +113,20 @@ int main(int argc, char** argv) {
     } else {
         window.show();
     }
-    if (!trouble.empty()) user.ShowNotice(trouble);
+    if (!stored.Damage().empty()) user.ShowNotice(stored.Damage());
     if (!line.File.isEmpty()) {
         QTimer::singleShot(0, &window, [&] { window.OpenFile(line.File); });
     }
     return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return RunWindow(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "brasklite: %s\n", error.what());
+        return 1;
+    }
 }
