@@ -250,10 +250,10 @@ TEST_F(MainWindow, RecentFilesListNewestFirstAndCanBeCleared) {
     auto* menu = Find<QMenu>("mnuRecentFiles");
     EXPECT_FALSE(menu->isEnabled());
     Open("/data/three.csv");
+    EXPECT_TRUE(menu->isEnabled());
     Open("/data/other.csv");
     Open("/data/three.csv");
     Open("/data/bad.csv");
-    EXPECT_TRUE(menu->isEnabled());
     ASSERT_EQ(menu->actions().size(), 4);  // two files, a line, the clear item
     EXPECT_THAT(FromQt(menu->actions()[0]->text()), HasSubstr("three.csv"));
     EXPECT_THAT(FromQt(menu->actions()[1]->text()), HasSubstr("other.csv"));

@@ -196,21 +196,22 @@ QGroupBox* GraphOptionsPage::BuildLineColors() {
     MSFlexGridColors->setColumnWidth(1, 80);
     MSFlexGridColors->setMinimumHeight(150);
 
-    auto* buttons = new QVBoxLayout;
+    auto* buttons = new QGridLayout;
     const std::pair<const char*, TextRow> edits[] = {{"cmdInsertBefore", kInsertBefore},
                                                      {"cmdInsertAfter", kInsertAfter},
                                                      {"cmdChangeColor", kChangeColor},
                                                      {"cmdCopyColor", kCopyColor},
                                                      {"cmdDeleteColor", kDeleteColor}};
+    int place = 0;
     for (const auto& edit : edits) {
-        buttons->addWidget(controls_.Button(edit.first, ToQt(texts_.Fill(edit.second, {"1"}))));
+        buttons->addWidget(controls_.Button(edit.first, ToQt(texts_.Fill(edit.second, {"1"}))),
+                           place / 2, place % 2);
+        ++place;
     }
-    buttons->addWidget(controls_.Button("cmdRestoreLineColors", kRestoreLineColors));
-    buttons->addStretch();
-    auto* row = new QHBoxLayout;
-    row->addWidget(MSFlexGridColors, 1);
-    row->addLayout(buttons);
-    static_cast<QVBoxLayout*>(frame->layout())->addLayout(row);
+    buttons->addWidget(controls_.Button("cmdRestoreLineColors", kRestoreLineColors), 2, 1);
+    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
+    layout->addWidget(MSFlexGridColors, 1);
+    layout->addLayout(buttons);
     return frame;
 }
 

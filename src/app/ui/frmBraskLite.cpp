@@ -202,6 +202,10 @@ void frmBraskLite::UpdateDataCommands() {
     SSTab1->setTabEnabled(kDataTab, commands_.HasReadings());
     graphOptions_->setEnabled(!commands_.Busy());
     programOptions_->setEnabled(!commands_.Busy());
+    SyncRecentFiles();
+}
+
+void frmBraskLite::SyncRecentFiles() {
     menus_->Submenu(QStringLiteral("mnuRecentFiles"))
         ->setEnabled(!commands_.Busy() && !recent_.List().empty());
 }
@@ -223,9 +227,9 @@ void frmBraskLite::ShowRecentFiles() {
     connect(clear, &QAction::triggered, this, [this] {
         recent_.Clear();
         ShowRecentFiles();
-        UpdateDataCommands();
     });
     graphPage_->ShowRecentFiles(paths, [this](const QString& path) { OpenLater(path); });
+    SyncRecentFiles();
 }
 
 void frmBraskLite::OpenLater(const QString& path) {

@@ -69,6 +69,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     void optTemperatureDisplay_Click(bool fahrenheit);
     void UpdateDataCommands();
     void ShowRecentFiles();
+    void SyncRecentFiles();
     // Opens a file that was dropped or named in a list, once the events under way are done.
     void OpenLater(const QString& path);
 
