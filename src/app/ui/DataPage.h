@@ -12,7 +12,8 @@ namespace brask {
 
 class DataPage final : public QWidget {
   public:
-    DataPage(const DataSet& readings, const TemperatureUnit& unit, const Texts& texts, QWidget* parent);
+    DataPage(const DataSet& readings, const TemperatureUnit& unit, const Texts& texts,
+             QWidget* parent);
 
     // A load begins: nothing of the old readings may be shown from now on.
     void LetGo();
