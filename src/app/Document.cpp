@@ -17,7 +17,8 @@ Document::Document(const System& system, const Session& session, const Plotting&
       session_(session),
       plotting_(plotting),
       commands_(commands),
-      recent_(session.Options) {}
+      recent_(session.Options),
+      layout_(static_cast<GraphType>(session.Options.Index("GraphType", 3))) {}
 
 std::string Document::StartCaption() const {
     return system_.Words.Fill(kCaptionNoData, {system_.Words.Find(data_texts::kProgramTitle)});
@@ -40,7 +41,7 @@ void Document::Open(const std::string& path, DataSource source) {
     if (system_.User.Ended()) return;
     if (outcome == LoadOutcome::kRead) {
         recent_.Add(session_.Data.CurrentDataFile);
-        plotting_.Builder.Rebuild(ReadPlotOptions(session_.Options, session_.Unit));
+        BuildPlot();
         view_->ShowCaption(system_.Words.Fill(
             kCaptionFile, {title, BaseName(system_.Disk, session_.Data.CurrentDataFile)}));
     }
@@ -62,8 +63,14 @@ LoadOutcome Document::Load() {
 
 void Document::RebuildPlot() {
     if (commands_.Busy()) return;
-    plotting_.Builder.Rebuild(ReadPlotOptions(session_.Options, session_.Unit));
+    BuildPlot();
     view_->ShowChart();
+}
+
+void Document::BuildPlot() {
+    PlotOptions options = ReadPlotOptions(session_.Options, session_.Unit);
+    options.Layout = layout_;
+    plotting_.Builder.Rebuild(options);
 }
 
 void Document::SetTemperatureUnit(bool fahrenheit) {
@@ -74,6 +81,7 @@ void Document::SetTemperatureUnit(bool fahrenheit) {
 }
 
 void Document::SetGraphType(GraphType type) {
+    layout_ = type;
     session_.Options.Save("GraphType", std::to_string(static_cast<int>(type)));
     if (session_.Data.ReadingCount > 0) RebuildPlot();
 }

@@ -42,6 +42,7 @@ class Document {
     void SetTemperatureUnit(bool fahrenheit);
     // Stores the layout and rebuilds the plot.
     void SetGraphType(GraphType type);
+    GraphType Layout() const { return layout_; }
     // The message about the file: its headers, first and last reading, count.
     std::string HeadersText() const;
 
@@ -50,6 +51,7 @@ class Document {
 
   private:
     LoadOutcome Load();
+    void BuildPlot();
 
     System system_;
     Session session_;
@@ -57,6 +59,7 @@ class Document {
     Commands& commands_;
     RecentFiles recent_;
     DocumentView* view_ = nullptr;
+    GraphType layout_;  // as chosen in this run, stored or not
 };
 
 }  // namespace brask

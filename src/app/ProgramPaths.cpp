@@ -1,16 +1,12 @@
 #include "app/ProgramPaths.h"
 
-#include <algorithm>
+#include "platform/AsciiText.h"
 
 namespace brask {
 
 std::string HelpFilePath(const std::string& programDirectory, char separator) {
-    std::string lower = programDirectory;
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
     const std::string slash(1, separator);
-    const bool installed = lower.find("talvex k42 pc") != std::string::npos;
+    const bool installed = ContainsIgnoringCase(programDirectory, "talvex k42 pc");
     const std::string folder =
         installed ? slash + "HtmlHelp" + slash + "brasklite" + slash + "htmlhelp" : "";
     return programDirectory + folder + slash + "BraskLite.chm";

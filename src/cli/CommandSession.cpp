@@ -3,7 +3,8 @@
 namespace brask {
 
 CommandSession::CommandSession(Shell& shell, const CommandLine& line)
-    : log_(shell.System.Disk(), shell.System.Time()),
+    : disk_(shell.System.Disk()),
+      log_(shell.System.Disk(), shell.System.Time()),
       settings_({shell.System.Disk(), shell.System.Locale(), shell.Words, log_},
                 line.Value("settings").value_or(""),
                 [this, &shell](const std::string& text) {
@@ -20,8 +21,8 @@ CommandSession::CommandSession(Shell& shell, const CommandLine& line)
 }
 
 bool CommandSession::Load(const std::string& file) {
-    data_.CurrentDataFile = file;
-    return loader_.LoadDataFile({dateOrder_, unit_}) == LoadOutcome::kRead;
+    data_.CurrentDataFile = disk_.Absolute(file);
+    return loader_.LoadDataFile({dateOrder_, unit_}) == LoadOutcome::kRead && !loader_.ReadFailed();
 }
 
 }  // namespace brask

@@ -21,6 +21,7 @@ class CommandSession {
     // the log.
     CommandSession(Shell& shell, const CommandLine& line);
 
+    // Loads a data file; true when it was read to its end and holds readings.
     bool Load(const std::string& file);
 
     const DataSet& Data() const { return data_; }
@@ -32,6 +33,7 @@ class CommandSession {
     bool AllSettingsSaved() const { return allSaved_; }
 
   private:
+    Files& disk_;
     DiagnosticLog log_;
     StoredSettings settings_;
     TemperatureUnit unit_;

@@ -35,11 +35,11 @@ void WriteExtremes(JsonWriter& json, const std::string& name,
     json.Member(name + "_max", extremes->Maximum);
 }
 
-void WriteDocument(Shell& shell, const CommandSession& session) {
+void WriteDocument(Shell& shell, const CommandSession& session, const std::string& file) {
     const DataSet& data = session.Data();
     JsonWriter json(shell.Out);
     json.BeginObject();
-    json.Member("file", data.CurrentDataFile);
+    json.Member("file", file);
     json.Member("instrument", Windows1252ToUtf8(data.InstrumentName));
     json.Member("serial_number", Windows1252ToUtf8(data.InstrumentSerialNumber));
     json.Member("date", Windows1252ToUtf8(data.InstrumentDate));
@@ -64,7 +64,7 @@ std::string RangeText(std::span<const double> values, const std::string& unit) {
     return FormatNumber(extremes.Minimum) + " to " + FormatNumber(extremes.Maximum) + " " + unit;
 }
 
-void WriteLines(OutputBuffer& out, const CommandSession& session) {
+void WriteLines(OutputBuffer& out, const CommandSession& session, const std::string& file) {
     const DataSet& data = session.Data();
     const auto line = [&out](std::string_view label, const std::string& value) {
         constexpr std::size_t kLabelWidth = 16;
@@ -74,7 +74,7 @@ void WriteLines(OutputBuffer& out, const CommandSession& session) {
         std::replace(text.begin(), text.end(), '\n', ' ');
         out.Write(text + "\n");
     };
-    line("File:", data.CurrentDataFile);
+    line("File:", file);
     line("Instrument:", Windows1252ToUtf8(data.InstrumentName));
     line("Serial number:", Windows1252ToUtf8(data.InstrumentSerialNumber));
     line("Date:", Windows1252ToUtf8(data.InstrumentDate));
@@ -91,11 +91,12 @@ void WriteLines(OutputBuffer& out, const CommandSession& session) {
 
 ExitStatus RunInfo(Shell& shell, const CommandLine& line) {
     CommandSession session(shell, line);
-    const bool read = session.Load(line.Arguments()[0]);
+    const std::string& file = line.Arguments()[0];
+    const bool read = session.Load(file);
     if (line.Has("json")) {
-        WriteDocument(shell, session);
+        WriteDocument(shell, session, file);
     } else if (read) {
-        WriteLines(shell.Out, session);
+        WriteLines(shell.Out, session, file);
     }
     return read ? ExitStatus::kDone : ExitStatus::kFailed;
 }

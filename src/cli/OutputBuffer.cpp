@@ -1,8 +1,9 @@
 #include "cli/OutputBuffer.h"
 
 #include <cerrno>
-#include <charconv>
 #include <system_error>
+
+#include "data/NumberText.h"
 
 namespace brask {
 namespace {
@@ -16,19 +17,12 @@ Error LastWriteError() {
 
 OutputBuffer::OutputBuffer(std::FILE* out) : out_(out) {}
 
-void OutputBuffer::WriteNumber(double value) {
-    char text[32];
-    const auto result = std::to_chars(text, text + sizeof text, value);
-    Write({text, static_cast<std::size_t>(result.ptr - text)});
-}
+void OutputBuffer::WriteNumber(double value) { Write(FormatNumber(value)); }
 
-void OutputBuffer::WriteInteger(std::int64_t value) {
-    char text[24];
-    const auto result = std::to_chars(text, text + sizeof text, value);
-    Write({text, static_cast<std::size_t>(result.ptr - text)});
-}
+void OutputBuffer::WriteInteger(std::int64_t value) { Write(std::to_string(value)); }
 
 void OutputBuffer::Flush() {
+    begun_ = begun_ || !pending_.empty();
     if (outcome_.Ok() && std::fwrite(pending_.data(), 1, pending_.size(), out_) < pending_.size()) {
         outcome_ = LastWriteError();
     }

@@ -23,6 +23,11 @@ class OutputBuffer {
     // The shortest text that reads back as this number.
     void WriteNumber(double value);
     void WriteInteger(std::int64_t value);
+    // Drops what is pending; false when something was written already.
+    bool Discard() {
+        pending_.clear();
+        return !begun_;
+    }
     // Writes what is pending; whether everything arrived.
     Status Finish();
 
@@ -33,6 +38,7 @@ class OutputBuffer {
 
     std::FILE* out_;
     std::string pending_;
+    bool begun_ = false;
     Status outcome_;
 };
 

@@ -22,6 +22,21 @@ ExitStatus RunCommand(Shell& shell, const CommandLine& line) {
     return line.Command()->Run(shell, line);
 }
 
+// A script that asked for a document gets one, too, when there is not enough memory.
+ExitStatus RunWithinMemory(Shell& shell, const CommandLine& line) {
+    try {
+        return RunCommand(shell, line);
+    } catch (const std::bad_alloc&) {
+        ShowFailure(shell, shell.Words.Find(cli_texts::kNoMemory));
+        if (line.Has("json") && shell.Out.Discard()) {
+            JsonWriter json(shell.Out);
+            json.BeginObject();
+            EndDocument(shell, json);
+        }
+        return ExitStatus::kFailed;
+    }
+}
+
 ExitStatus RunWords(std::span<const CommandRow> commands, std::span<const std::string> words) {
     NativeSystem system;
     const EnglishTexts texts;
@@ -36,7 +51,7 @@ ExitStatus RunWords(std::span<const CommandRow> commands, std::span<const std::s
     OutputBuffer out(stdout);
     Shell shell{system, texts, user, out, commands, words};
     if (!line.Ok()) return WrongUsage(line.Why().Reason);
-    const ExitStatus status = RunCommand(shell, line.Value());
+    const ExitStatus status = RunWithinMemory(shell, line.Value());
     if (const Status written = out.Finish(); !written.Ok()) {
         WriteErrorLine(texts.Fill(cli_texts::kCannotWriteResult, {written.Why().Reason}));
         return ExitStatus::kFailed;

@@ -42,7 +42,8 @@ std::optional<std::uint32_t> RgbNumber(std::string_view text) {
 
 std::optional<std::uint32_t> DecimalNumber(std::string_view text) {
     const auto number = ParseNumber(text);
-    if (!number || std::abs(*number) > 2147483647.0) return std::nullopt;
+    // rounded half to even first, then it must fit 32 bits
+    if (!number || std::abs(std::nearbyint(*number)) > 2147483647.0) return std::nullopt;
     return static_cast<std::uint32_t>(std::llrint(*number));
 }
 

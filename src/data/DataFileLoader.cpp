@@ -4,6 +4,7 @@
 
 #include "data/DataTexts.h"
 #include "data/Windows1252.h"
+#include "platform/AsciiText.h"
 
 namespace brask {
 namespace {
@@ -14,7 +15,7 @@ using namespace data_texts;
 // estimate moves the arrays, which is slower but as right.
 std::size_t ExpectedReadings(std::uint64_t fileSize) {
     constexpr std::uint64_t kMost =
-        1 << 26;  // never set aside more than a file could be honest about
+        1 << 24;  // never set aside more than a file could be honest about
     return static_cast<std::size_t>(std::min(fileSize / FixedLineParser::kLineLength, kMost)) + 502;
 }
 
@@ -49,12 +50,8 @@ std::string BadLineText(const Texts& texts, const LineReport& report) {
 }  // namespace
 
 bool LiesInTempDirectory(const Files& files, const std::string& path) {
-    std::string lower = files.Absolute(path);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    }
     const std::string separator(1, files.Separator());
-    return lower.find(separator + "temp" + separator) != std::string::npos;
+    return ContainsIgnoringCase(files.Absolute(path), separator + "temp" + separator);
 }
 
 DataFileLoader::DataFileLoader(DataSet& data, UserInterface& user, const Texts& texts, Files& files,
@@ -63,8 +60,11 @@ DataFileLoader::DataFileLoader(DataSet& data, UserInterface& user, const Texts& 
 
 LoadOutcome DataFileLoader::LoadDataFile(const ReadOptions& options) {
     rejectedLines_ = 0;
+    readFailed_ = false;
     showBadLines_ = true;
     cancelled_ = false;
+    // events run from here on, and nobody may see the old readings any more
+    data_.ReadingCount = 0;
     if (data_.CurrentDataFile.empty()) {
         data_.Recreate(0);
         return LoadOutcome::kNoFile;
@@ -74,6 +74,7 @@ LoadOutcome DataFileLoader::LoadDataFile(const ReadOptions& options) {
         Read(options);
     }
     if (cancelled_) {
+        rejectedLines_ = 0;
         data_.Recreate(0);
         return LoadOutcome::kCancelled;
     }
@@ -92,6 +93,7 @@ void DataFileLoader::Read(const ReadOptions& options) {
     auto opened = files_.Open(path);
     data_.Recreate(opened.Ok() ? ExpectedReadings(opened.Value()->Size()) : 0);
     if (!opened.Ok()) {
+        readFailed_ = true;
         ShowText(texts_.Fill(kCannotRead, {path, opened.Why().Reason}));
         return;
     }
@@ -100,6 +102,7 @@ void DataFileLoader::Read(const ReadOptions& options) {
     cancelled_ = summary.Cancelled || user_.Ended();
     if (cancelled_) return;
     if (!summary.Outcome.Ok()) {
+        readFailed_ = true;
         ShowText(texts_.Fill(kCannotRead, {path, summary.Outcome.Why().Reason}));
     }
     if (data_.ReadingCount == 0 && summary.LoneLineFeeds) {

@@ -31,6 +31,8 @@ class DataFileLoader final : private ReadObserver {
 
     // Lines of the last load that a message was due for, shown or switched off.
     std::int64_t RejectedLines() const { return rejectedLines_; }
+    // Whether the last load could not read the file, or not to its end; a message has said so.
+    bool ReadFailed() const { return readFailed_; }
 
   private:
     void Read(const ReadOptions& options);
@@ -45,6 +47,7 @@ class DataFileLoader final : private ReadObserver {
     Files& files_;
     DiagnosticLog& log_;
     std::int64_t rejectedLines_ = 0;
+    bool readFailed_ = false;
     bool showBadLines_ = true;
     bool cancelled_ = false;
 };

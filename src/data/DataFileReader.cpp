@@ -1,12 +1,13 @@
 #include "data/DataFileReader.h"
 
-#include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <memory>
 #include <optional>
 
 #include "data/NumberText.h"
+#include "platform/AsciiText.h"
 
 namespace brask {
 namespace {
@@ -17,31 +18,12 @@ constexpr std::uint32_t kLinesPerTurn = 256;
 constexpr std::int32_t kReadingsPerReport = 100;
 constexpr std::string_view kInstrumentKey = "INSTRUMENT:";
 
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-bool SameUpper(char c, char upper) { return Upper(c) == upper; }
-
-bool EqualsUpper(std::string_view text, std::string_view upper) {
-    return std::equal(text.begin(), text.end(), upper.begin(), upper.end(), SameUpper);
-}
-
-bool ContainsUpper(std::string_view text, std::string_view upper) {
-    return std::search(text.begin(), text.end(), upper.begin(), upper.end(), SameUpper) !=
-           text.end();
-}
-
-std::string Trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
 // The header field that a key fills; nullptr when it is no header key.
 std::string* HeaderField(DataSet& data, std::string_view key) {
-    if (EqualsUpper(key, kInstrumentKey)) return &data.InstrumentName;
-    if (EqualsUpper(key, "SERIAL NUMBER:")) return &data.InstrumentSerialNumber;
-    if (EqualsUpper(key, "DATE:")) return &data.InstrumentDate;
-    if (EqualsUpper(key, "GAS:")) return &data.InstrumentGas;
+    if (SameIgnoringCase(key, kInstrumentKey)) return &data.InstrumentName;
+    if (SameIgnoringCase(key, "SERIAL NUMBER:")) return &data.InstrumentSerialNumber;
+    if (SameIgnoringCase(key, "DATE:")) return &data.InstrumentDate;
+    if (SameIgnoringCase(key, "GAS:")) return &data.InstrumentGas;
     return nullptr;
 }
 
@@ -67,13 +49,15 @@ ReadSummary DataFileReader::ReadDataFile(InputFile& file) {
         if (!read.Ok()) {
             // the line that the failure cut is lost: half a number must not become a reading
             summary_.Outcome = read.Why();
-            return summary_;
+            pending_.clear();
+            break;
         }
         if (read.Value() == 0) break;
         // also where a file has no candidate line for megabytes
         if (AskObserver()) ReadBlock({buffer.get(), read.Value()});
     }
     if (!pending_.empty() && !dropping_ && !summary_.Cancelled) EndLine({});
+    summary_.LoneLineFeeds = lineFeedsMet_ && !lineEndsMet_;
     return summary_;
 }
 
@@ -87,6 +71,7 @@ void DataFileReader::ReadBlock(std::string_view block) {
             KeepForNextBlock(block);
             return;
         }
+        lineEndsMet_ = true;
         EndLine(block.substr(0, end));
         block.remove_prefix(end + 1);
         afterCarriageReturn_ = block.empty();
@@ -168,12 +153,12 @@ void DataFileReader::ParseDataFileLine(std::string_view line) {
     const auto colon = line.find(':');
     if (colon == std::string_view::npos) return;
     std::string_view key =
-        ContainsUpper(line, kInstrumentKey) ? kInstrumentKey : line.substr(0, colon + 1);
+        ContainsIgnoringCase(line, kInstrumentKey) ? kInstrumentKey : line.substr(0, colon + 1);
     while (key.size() >= 2 && key.front() == '\n') key.remove_prefix(1);
     if (std::string* field = HeaderField(data_, key)) {
         // users rely on it: the value starts after the line's first colon, also where
         // "INSTRUMENT:" comes after an earlier one
-        *field = Trimmed(line.substr(colon + 1));
+        *field = std::string(Trimmed(line.substr(colon + 1)));
         return;
     }
     AcceptReadingLine(line);
@@ -198,7 +183,8 @@ void DataFileReader::AcceptReadingLine(std::string_view line) {
         return;
     }
     const auto celsius = ParseNumber(temperatureField);
-    if (!celsius) {
+    // a number of °C can be too large for one of °F
+    if (!celsius || !std::isfinite(options_.Unit.ToDisplayTemperature(*celsius))) {
         Report({LineProblem::kInvalidTemperature, lineNumber_, line, temperatureField, {}});
         return;
     }
@@ -216,7 +202,7 @@ void DataFileReader::Append(double time, double gas, double celsius) {
 }
 
 void DataFileReader::NoteLineFeeds(std::string_view text) {
-    if (text.find('\n') != std::string_view::npos) summary_.LoneLineFeeds = true;
+    if (text.find('\n') != std::string_view::npos) lineFeedsMet_ = true;
 }
 
 // Gives events their turn before a candidate line. False when the reading is to end.

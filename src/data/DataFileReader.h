@@ -50,7 +50,7 @@ struct ReadOptions {
 struct ReadSummary {
     Status Outcome;                  // why reading broke off, if the file could not be read
     bool Cancelled = false;          // the observer ended it
-    bool LoneLineFeeds = false;      // line feeds without a CR were met
+    bool LoneLineFeeds = false;      // line feeds were met and not one line end
     std::int64_t RejectedLines = 0;  // lines that a message is due for
 };
 
@@ -85,8 +85,10 @@ class DataFileReader {
     ReadObserver& observer_;
     FixedLineParser fixed_;
     ReadSummary summary_;
-    std::string pending_;               // the beginning of a line that goes on in the next block
-    bool dropping_ = false;             // within a line that is too long
+    std::string pending_;        // the beginning of a line that goes on in the next block
+    bool dropping_ = false;      // within a line that is too long
+    bool lineFeedsMet_ = false;  // within lines
+    bool lineEndsMet_ = false;
     bool afterCarriageReturn_ = false;  // at the end of the last block: a LF may follow
     std::int64_t lineNumber_ = 0;
     std::uint32_t candidates_ = 0;

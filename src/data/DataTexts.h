@@ -33,7 +33,8 @@ inline constexpr auto kRenameFailure =
             "Could Not Rename File \r\n%1\r\n To \r\n%2\r\nError:\r\n%3\r\n"
             "Please manually copy the file to the %4 Directory");
 
-inline constexpr auto kSettingNotSaved = TextRow("data", "The setting %1 could not be saved: %2");
+inline constexpr auto kSettingNotSaved =
+    TextRow("data", "The setting %1 could not be saved to %2: %3");
 inline constexpr auto kCursorNotMapped =
     TextRow("data", "Cursor Type Not Mapped SetCursorType(%1)");
 

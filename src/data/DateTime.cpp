@@ -5,6 +5,8 @@
 #include <chrono>
 #include <cmath>
 
+#include "platform/AsciiText.h"
+
 namespace brask {
 namespace {
 
@@ -12,15 +14,11 @@ constexpr std::int64_t kUnixEpoch = 25569;  // 1 January 1970 as a serial
 constexpr std::array<std::string_view, 12> kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 // 1..12 for a three-letter English month name, 0 for any other text.
 int MonthOfName(std::string_view text) {
-    const auto same = [text](std::string_view name) {
-        return std::equal(name.begin(), name.end(), text.begin(), text.end(),
-                          [](char a, char b) { return Lower(a) == Lower(b); });
-    };
-    const auto found = std::find_if(kMonths.begin(), kMonths.end(), same);
+    const auto found = std::find_if(kMonths.begin(), kMonths.end(), [text](std::string_view name) {
+        return SameIgnoringCase(name, text);
+    });
     return found == kMonths.end() ? 0 : static_cast<int>(found - kMonths.begin()) + 1;
 }
 
@@ -62,8 +60,8 @@ class Scanner {
     // 'A' or 'P' for AM or PM, '\0' for neither.
     char HalfDay() {
         const std::string_view word = text_.substr(position_, 2);
-        if (word.size() < 2 || Lower(word[1]) != 'm') return '\0';
-        const char half = Lower(word[0]);
+        if (word.size() < 2 || LowerCase(word[1]) != 'm') return '\0';
+        const char half = LowerCase(word[0]);
         if (half != 'a' && half != 'p') return '\0';
         position_ += 2;
         return half == 'a' ? 'A' : 'P';
@@ -100,12 +98,6 @@ std::optional<CivilDate> NumericDate(Scanner scan, LongDateOrder order) {
     if (yearFirst) return CivilDate{*first, *second, *third};
     if (order == LongDateOrder::kDayMonthYear) return CivilDate{*third, *second, *first};
     return CivilDate{*third, *first, *second};
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::string TwoDigits(int number) {
@@ -196,7 +188,7 @@ std::string ToLocaleDateText(std::string_view text, LongDateOrder order) {
 }
 
 std::optional<double> ParseTimeOfDay(std::string_view text) {
-    Scanner scan(TrimBlanks(text));
+    Scanner scan(Trimmed(text));
     const auto hour = scan.Number(1, 2);
     if (!hour || !scan.Skip(':')) return std::nullopt;
     const auto minute = scan.Number(2, 2);
@@ -214,7 +206,7 @@ std::optional<double> ParseTimeOfDay(std::string_view text) {
 }
 
 std::optional<double> ParseDateTime(std::string_view text, LongDateOrder order) {
-    text = TrimBlanks(text);
+    text = Trimmed(text);
     const auto blank = text.find(' ');
     const std::string_view datePart = text.substr(0, blank);
     auto date = NamedMonthDate(Scanner(datePart));

@@ -1,5 +1,7 @@
 #include "data/DiagnosticLog.h"
 
+#include <algorithm>
+
 #include "data/DateTime.h"
 
 namespace brask {
@@ -13,8 +15,11 @@ void DiagnosticLog::WriteLog(std::string_view text) {
     // without a place for the log there is nobody left to tell
     if (!files_.MakeDirectoryChain(files_.Folder(KnownFolder::kLog)).Ok()) return;
     CutToLastBytes();
-    const std::string entry =
-        "[" + FormatReadingTime(clock_.Now()) + "] " + std::string(text) + "\r\n";
+    std::string line(text);
+    // one entry a line, whatever a path brought along
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    const std::string entry = "[" + FormatReadingTime(clock_.Now()) + "] " + line + "\r\n";
     static_cast<void>(files_.Append(path_, entry).Ok());
 }
 

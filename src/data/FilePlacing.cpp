@@ -1,5 +1,7 @@
 #include "data/FilePlacing.h"
 
+#include <algorithm>
+
 #include "data/DataTexts.h"
 
 namespace brask {
@@ -12,14 +14,15 @@ Status CopyWhole(Files& files, const std::string& source, const std::string& des
     if (!opened.Ok()) return opened.Why();
     auto started = files.Replace(destination);
     if (!started.Ok()) return started.Why();
-    std::string block(kCopyBlock, '\0');
-    for (;;) {
-        const auto read = opened.Value()->Read(block);
-        if (!read.Ok()) return read.Why();
-        if (read.Value() == 0) return started.Value()->Commit();
-        Status written = started.Value()->Write({block.data(), read.Value()});
-        if (!written.Ok()) return written;
-    }
+    return CopyAndCommit(*opened.Value(), *started.Value(), kCopyBlock);
+}
+
+// The move between file systems.
+Status CopyAndRemove(Files& files, const std::string& source, const std::string& destination) {
+    // the same file under two names: removing the source would remove the only copy
+    if (files.SameFile(source, destination)) return {};
+    Status copied = CopyWhole(files, source, destination);
+    return copied.Ok() ? files.Remove(source) : copied;
 }
 
 }  // namespace
@@ -36,21 +39,18 @@ bool FilePlacing::PlaceReceivedFile(std::string source, std::string destination,
                                     const std::string& instrumentDirectory) {
     if (!destination.ends_with(".csv")) destination += ".csv";
     source.erase(std::min(source.find('\0'), source.size()));
-    if (files_.Move(source, destination).Ok() || MoveByCopy(source, destination)) return true;
+    if (files_.Move(source, destination).Ok()) return true;
+    const Status moved = CopyAndRemove(files_, source, destination);
+    if (moved.Ok()) return true;
     user_.ShowMessage(
         {texts_.Find(data_texts::kRenameFailureTitle),
          texts_.Fill(data_texts::kRenameFailure,
-                     {source, destination, ReasonOf(lastError_), instrumentDirectory})});
+                     {source, destination, ReasonOf(moved.Why()), instrumentDirectory})});
     return false;
 }
 
 bool FilePlacing::MoveByCopy(const std::string& source, const std::string& destination) {
-    // already in its place: removing the source would remove the only copy
-    if (files_.Absolute(source) == files_.Absolute(destination)) return files_.Exists(source);
-    const Status copied = CopyWhole(files_, source, destination);
-    const Status removed = copied.Ok() ? files_.Remove(source) : copied;
-    if (!removed.Ok()) lastError_ = removed.Why();
-    return removed.Ok();
+    return CopyAndRemove(files_, source, destination).Ok();
 }
 
 bool FilePlacing::SaveDataFile(const DataSet& data, const std::string& target) {

@@ -37,7 +37,6 @@ class FilePlacing {
     UserInterface& user_;
     const Texts& texts_;
     const SystemInformation& system_;
-    Error lastError_;
 };
 
 }  // namespace brask

@@ -31,11 +31,7 @@ void PlotColors::RestoreDefaults(Settings& settings) {
     settings.Save("NumPlotColorsDefined", std::to_string(kDefaults.size()));
 }
 
-void PlotColors::SaveEntry(Settings& settings, int number, std::string value) {
-    for (auto doubled = value.find("&&"); doubled != std::string::npos;
-         doubled = value.find("&&")) {
-        value.erase(doubled, 1);
-    }
+void PlotColors::SaveEntry(Settings& settings, int number, std::string_view value) {
     settings.Save(Key(number), value);
 }
 

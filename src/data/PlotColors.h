@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/ColorValue.h"
@@ -26,7 +27,7 @@ class PlotColors {
     // Writes the nine defaults in any case.
     static void RestoreDefaults(Settings& settings);
     // Stores one entry; a doubled "&" in front becomes one.
-    static void SaveEntry(Settings& settings, int number, std::string value);
+    static void SaveEntry(Settings& settings, int number, std::string_view value);
 
     // Reads the table from the store. An empty one is served by the nine defaults, in memory, so
     // that a curve always has a colour.

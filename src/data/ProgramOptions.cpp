@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "data/DataTexts.h"
+#include "data/NumberText.h"
 
 namespace brask {
 
@@ -40,7 +41,7 @@ ProgramOptions LoadProgramOptions(const Settings& settings, UserInterface& user,
     options.CursorType = options.CursorStyle ? static_cast<int>(cursor) : -1;
     if (!options.CursorStyle) {
         user.ShowMessage({texts.Find(data_texts::kProgramTitle),
-                          texts.Fill(data_texts::kCursorNotMapped, {settings.Get("CursorType")})});
+                          texts.Fill(data_texts::kCursorNotMapped, {FormatNumber(cursor)})});
     }
     options.ScalePrint = settings.IsYes("ScalePrint");
 

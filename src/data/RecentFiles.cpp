@@ -1,17 +1,21 @@
 #include "data/RecentFiles.h"
 
+#include <string_view>
+
 namespace brask {
 namespace {
 
-std::string Key(std::size_t index) { return "RecentFile" + std::to_string(index + 1); }
+constexpr const char* kKey = "RecentFiles";
 
 }  // namespace
 
 std::vector<std::string> RecentFiles::List() const {
     std::vector<std::string> paths;
-    for (std::size_t i = 0; i < kMost; ++i) {
-        std::string path = settings_.Get(Key(i));
-        if (!path.empty()) paths.push_back(std::move(path));
+    const std::string stored = settings_.Get(kKey);
+    for (std::string_view rest = stored; !rest.empty() && paths.size() < kMost;) {
+        const auto end = rest.find('\n');
+        if (end != 0) paths.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
     }
     return paths;
 }
@@ -20,6 +24,7 @@ void RecentFiles::Add(const std::string& path) {
     std::vector<std::string> paths = List();
     std::erase(paths, path);
     paths.insert(paths.begin(), path);
+    if (paths.size() > kMost) paths.pop_back();
     Store(paths);
 }
 
@@ -30,11 +35,10 @@ void RecentFiles::Remove(const std::string& path) {
 }
 
 void RecentFiles::Store(const std::vector<std::string>& paths) {
-    for (std::size_t i = 0; i < kMost; ++i) {
-        const std::string path = i < paths.size() ? paths[i] : "";
-        // each save replaces a file on disk; what has not changed need not be saved
-        if (settings_.Get(Key(i)) != path) settings_.Save(Key(i), path);
-    }
+    std::string joined;
+    for (const std::string& path : paths) joined += (joined.empty() ? "" : "\n") + path;
+    // each save replaces a file on disk; what has not changed need not be saved
+    if (joined != settings_.Get(kKey)) settings_.Save(kKey, joined);
 }
 
 }  // namespace brask

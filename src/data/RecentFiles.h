@@ -1,4 +1,4 @@
-// The ten data files opened last, newest first, kept between runs.
+// The ten data files opened last, newest first, kept between runs as the lines of one setting.
 #pragma once
 
 #include <string>

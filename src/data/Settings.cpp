@@ -6,6 +6,7 @@
 #include "data/NumberText.h"
 #include "data/PlotColors.h"
 #include "data/SettingsTable.h"
+#include "platform/AsciiText.h"
 
 namespace brask {
 namespace {
@@ -14,6 +15,13 @@ const SettingRow* FindRow(std::span<const SettingRow> rows, std::string_view key
     const auto found = std::find_if(rows.begin(), rows.end(),
                                     [key](const SettingRow& row) { return row.Key == key; });
     return found == rows.end() ? nullptr : &*found;
+}
+
+// The table editor composes "&" and a text that begins with "&h".
+void RemoveDoubledAmpersands(std::string& value) {
+    for (auto at = value.find("&&"); at != std::string::npos; at = value.find("&&")) {
+        value.erase(at, 1);
+    }
 }
 
 }  // namespace
@@ -50,10 +58,9 @@ std::string Settings::Get(const std::string& key) const {
 }
 
 void Settings::Save(const std::string& key, std::string_view value) {
-    const auto first = std::min(value.find_first_not_of(' '), value.size());
-    value.remove_prefix(first);
-    value = value.substr(0, value.find_last_not_of(' ') + 1);
-    const Status saved = StoreOf(key).Save(key, std::string(value));
+    std::string stored(Trimmed(value));
+    if (IsPlotLineColorKey(key)) RemoveDoubledAmpersands(stored);
+    const Status saved = StoreOf(key).Save(key, stored);
     if (!saved.Ok()) report_(key, saved.Why().Reason);
 }
 

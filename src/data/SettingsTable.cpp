@@ -65,16 +65,7 @@ const auto kKnown = std::to_array<SettingRow>({
 const auto kOwn = std::to_array<SettingRow>({
     {"InstrumentAddress", kText, "irda", TextRow("settings", "link to the instrument")},
     {"HandheldAddress", kText, "", TextRow("settings", "link to the handheld")},
-    {"RecentFile1", kText, "", TextRow("settings", "data file opened last")},
-    {"RecentFile2", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile3", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile4", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile5", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile6", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile7", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile8", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile9", kText, "", TextRow("settings", "data file opened before")},
-    {"RecentFile10", kText, "", TextRow("settings", "data file opened before")},
+    {"RecentFiles", kText, "", TextRow("settings", "data files opened last, one a line")},
 });
 
 }  // namespace

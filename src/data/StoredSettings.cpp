@@ -8,33 +8,42 @@
 namespace brask {
 
 std::string StoredSettings::UserPath(const Files& files) {
+    const std::string folder = files.Folder(KnownFolder::kSettings);
+    if (folder.empty()) return "";
     const std::string separator(1, files.Separator());
-    return files.Folder(KnownFolder::kSettings) + separator + "VEK" + separator + "Brask Lite.ini";
+    return folder + separator + "VEK" + separator + "Brask Lite.ini";
 }
 
 StoredSettings::StoredSettings(const Needs& needs, const std::string& path, SaveFailure failed)
     : needs_(needs),
-      file_(needs.Disk, path.empty() ? UserPath(needs.Disk) : path),
+      failed_(std::move(failed)),
+      path_(path.empty() ? UserPath(needs.Disk) : path),
+      file_(needs.Disk, path_,
+            [this](const std::string& reason, const std::string& kept) {
+                ReportDamage(reason, kept);
+            }),
       known_(file_, "Brask Lite"),
       own_(file_, "Window"),
       settings_(
-          known_, own_, needs.Locale,
-          [this, failed = std::move(failed)](const std::string& key, const std::string& reason) {
+          known_, own_, needs.Locale, [this](const std::string& key, const std::string& reason) {
               const std::string line =
-                  needs_.Words.Fill(data_texts::kSettingNotSaved, {key, reason});
+                  needs_.Words.Fill(data_texts::kSettingNotSaved, {key, file_.Path(), reason});
               needs_.Log.WriteLog(line);
-              failed(line);
-          }),
-      damage_(file_.Damage().empty() ? "" : DamageText()) {
-    if (!damage_.empty()) needs_.Log.WriteLog(damage_);
+              failed_(line);
+          }) {
+    opened_ = true;
 }
 
-std::string StoredSettings::DamageText() const {
-    // what could not even be read was left where it is
-    const bool setAside = !needs_.Disk.Exists(file_.Path());
-    return setAside ? needs_.Words.Fill(platform_texts::kSettingsSetAside,
-                                        {file_.Path(), file_.Damage(), file_.Path() + ".bad"})
-                    : needs_.Words.Fill(data_texts::kCannotRead, {file_.Path(), file_.Damage()});
+void StoredSettings::ReportDamage(const std::string& reason, const std::string& kept) {
+    const std::string line =
+        kept.empty() ? needs_.Words.Fill(data_texts::kCannotRead, {path_, reason})
+                     : needs_.Words.Fill(platform_texts::kSettingsSetAside, {path_, reason, kept});
+    needs_.Log.WriteLog(line);
+    if (opened_) {
+        failed_(line);
+    } else {
+        damage_ = line;
+    }
 }
 
 }  // namespace brask

@@ -15,7 +15,7 @@ namespace brask {
 
 class StoredSettings {
   public:
-    // Told, after the log, which setting could not be saved and why: one line for the user.
+    // Told, after the log, what went wrong with a save: one line for the user.
     using SaveFailure = std::function<void(const std::string& line)>;
 
     // The system's parts that the settings need.
@@ -34,18 +34,21 @@ class StoredSettings {
     // (defaults then serve); empty when all is well. It is in the log already.
     const std::string& Damage() const { return damage_; }
 
-    // The INI file that holds the user's own settings.
+    // The INI file that holds the user's own settings; empty when no folder for it is known.
     static std::string UserPath(const Files& files);
 
   private:
-    std::string DamageText() const;
+    void ReportDamage(const std::string& reason, const std::string& kept);
 
     Needs needs_;
+    SaveFailure failed_;
+    std::string path_;
+    std::string damage_;
+    bool opened_ = false;
     IniSettingsFile file_;
     IniSettingsStore known_;
     IniSettingsStore own_;
     Settings settings_;
-    std::string damage_;
 };
 
 }  // namespace brask

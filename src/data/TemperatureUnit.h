@@ -18,8 +18,6 @@ class TemperatureUnit {
     double ToDisplayTemperature(double celsius) const {
         return fahrenheit_ ? 9.0 / 5.0 * celsius + 32.0 : celsius;
     }
-    // Puts the unit in force without touching any reading: for a value read from the settings.
-    void Set(bool fahrenheit) { fahrenheit_ = fahrenheit; }
     // Puts the unit in force and converts every loaded temperature in place, from the other unit.
     // Not guarded against the unit already in force: call it when the user's choice has changed.
     void SwitchTo(bool fahrenheit, DataSet& data);

@@ -29,6 +29,17 @@ Result<std::string> ReadWholeFile(Files& files, const std::string& path, std::si
     return content;
 }
 
+Status CopyAndCommit(InputFile& source, ReplacementFile& target, std::size_t blockSize) {
+    std::string block(blockSize, '\0');
+    for (;;) {
+        const auto read = source.Read(block);
+        if (!read.Ok()) return read.Why();
+        if (read.Value() == 0) return target.Commit();
+        const Status written = target.Write({block.data(), read.Value()});
+        if (!written.Ok()) return written;
+    }
+}
+
 Status WriteWholeFile(Files& files, const std::string& path, std::string_view bytes) {
     auto started = files.Replace(path);
     if (!started.Ok()) return started.Why();

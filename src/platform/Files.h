@@ -75,6 +75,8 @@ class Files {
 
     virtual bool Exists(const std::string& path) const = 0;
     virtual bool IsDirectory(const std::string& path) const = 0;
+    // Whether two paths lead to one existing file, by whatever links.
+    virtual bool SameFile(const std::string& a, const std::string& b) const = 0;
     // Waits for the lock on this path (at most two seconds); the file is created and stays.
     virtual Result<std::unique_ptr<FileLock>> Lock(const std::string& path) = 0;
 
@@ -92,6 +94,10 @@ std::string BaseName(const Files& files, const std::string& path);
 
 // The whole content of a file of at most `limit` bytes; a longer one fails with EFBIG.
 Result<std::string> ReadWholeFile(Files& files, const std::string& path, std::size_t limit);
+
+// Copies all that is left of a file into one that is being written, in blocks of `blockSize` bytes,
+// and commits it.
+Status CopyAndCommit(InputFile& source, ReplacementFile& target, std::size_t blockSize);
 
 // Replaces a file by these bytes in one durable step.
 Status WriteWholeFile(Files& files, const std::string& path, std::string_view bytes);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "platform/AsciiText.h"
+
 namespace brask {
 namespace {
 
@@ -47,11 +49,8 @@ std::string Decode(std::string_view text) {
     return decoded;
 }
 
-std::string_view TrimBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
+// Blanks that count for nothing at the ends; a CR is left by editors of other systems.
+constexpr std::string_view kBlanks = " \t\r";
 
 }  // namespace
 
@@ -65,7 +64,7 @@ Result<IniFile> IniFile::Parse(std::string_view content) {
     while (!content.empty()) {
         ++number;
         const auto end = content.find('\n');
-        const std::string_view line = TrimBlanks(content.substr(0, end));
+        const std::string_view line = Trimmed(content.substr(0, end), kBlanks);
         content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
         if (line.find('\0') != std::string_view::npos) {
             return Error{0, "line " + std::to_string(number) + " holds a zero byte"};
@@ -83,8 +82,8 @@ Result<IniFile> IniFile::Parse(std::string_view content) {
         if (equals == std::string_view::npos) {
             return Error{0, "line " + std::to_string(number) + " is no Key=Value line"};
         }
-        file.lines_.push_back({section, Decode(TrimBlanks(line.substr(0, equals))),
-                               Decode(TrimBlanks(line.substr(equals + 1))), true});
+        file.lines_.push_back({section, Decode(Trimmed(line.substr(0, equals), kBlanks)),
+                               Decode(Trimmed(line.substr(equals + 1), kBlanks)), true});
     }
     return file;
 }

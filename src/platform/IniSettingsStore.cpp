@@ -5,27 +5,35 @@
 
 namespace brask {
 
-IniSettingsFile::IniSettingsFile(Files& files, std::string path)
-    : files_(files), path_(std::move(path)) {
-    if (const Status read = Reload(); !read.Ok() && damage_.empty()) damage_ = read.Why().Reason;
+IniSettingsFile::IniSettingsFile(Files& files, std::string path, DamageReport report)
+    : files_(files), path_(std::move(path)), report_(std::move(report)) {
+    if (path_.empty()) return;
+    if (const Status read = Reload(); !read.Ok()) report_(read.Why().Reason, "");
 }
 
 Status IniSettingsFile::Reload() {
-    if (!files_.Exists(path_)) {
+    const auto bytes = ReadWholeFile(files_, path_, kSizeLimit);
+    if (!bytes.Ok() && bytes.Why().Number == ENOENT) {
         content_ = IniFile();
         return {};
     }
-    const auto bytes = ReadWholeFile(files_, path_, kSizeLimit);
     // what cannot be read (or is a device) is left alone; what is no settings file is set aside
     if (!bytes.Ok() && bytes.Why().Number != EFBIG) return bytes.Why();
     auto parsed = bytes.Ok() ? IniFile::Parse(bytes.Value()) : Result<IniFile>(bytes.Why());
-    if (parsed.Ok()) {
-        content_ = std::move(parsed.Value());
-        return {};
+    if (!parsed.Ok()) return SetAside(parsed.Why().Reason);
+    content_ = std::move(parsed.Value());
+    return {};
+}
+
+// What was read before stays in force: a file damaged while the program runs costs nothing.
+Status IniSettingsFile::SetAside(const std::string& reason) {
+    std::string kept = path_ + ".bad";
+    for (int number = 2; files_.Exists(kept); ++number) {
+        kept = path_ + ".bad" + std::to_string(number);
     }
-    damage_ = parsed.Why().Reason;
-    content_ = IniFile();
-    return files_.Move(path_, path_ + ".bad");
+    Status moved = files_.Move(path_, kept);
+    if (moved.Ok()) report_(reason, kept);
+    return moved;
 }
 
 std::string IniSettingsFile::Get(const std::string& section, const std::string& key,
@@ -35,8 +43,8 @@ std::string IniSettingsFile::Get(const std::string& section, const std::string& 
 
 Status IniSettingsFile::Save(const std::string& section, const std::string& key,
                              const std::string& value) {
-    const auto slash = path_.find_last_of('/');
-    const std::string directory = slash == std::string::npos ? "" : path_.substr(0, slash);
+    if (path_.empty()) return Error{ENOENT, "no folder for settings is known"};
+    const std::string directory = path_.substr(0, path_.size() - BaseName(files_, path_).size());
     if (!directory.empty()) {
         if (Status made = files_.MakeDirectoryChain(directory); !made.Ok()) return made;
     }

@@ -3,7 +3,7 @@
 // file again, changes the one key and replaces the file durably.
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <string>
 
 #include "platform/Files.h"
@@ -18,13 +18,16 @@ class IniSettingsFile {
     // Larger files are not settings files of ours.
     static constexpr std::size_t kSizeLimit = 1 << 20;
 
-    // Reads the file at once; a missing one is an empty one. A damaged one is renamed to the same
-    // name with ".bad" behind it, and Damage() says why.
-    IniSettingsFile(Files& files, std::string path);
+    // Told why the file could not be used, and the name under which a damaged one was kept; that
+    // name is empty for a file that could not be read and was left alone.
+    using DamageReport = std::function<void(const std::string& reason, const std::string& kept)>;
+
+    // Reads the file at once; a missing one is an empty one. A damaged one is renamed, now or when
+    // a save meets it: ".bad" is put behind its name, with a number when that name is taken. An
+    // empty path (no folder for settings is known) is a file that nothing can be saved to.
+    IniSettingsFile(Files& files, std::string path, DamageReport report);
 
     const std::string& Path() const { return path_; }
-    // Why the file was set aside, or why it could not be read; empty when all is well.
-    const std::string& Damage() const { return damage_; }
 
     std::string Get(const std::string& section, const std::string& key,
                     const std::string& defaultValue) const;
@@ -32,10 +35,11 @@ class IniSettingsFile {
 
   private:
     Status Reload();
+    Status SetAside(const std::string& reason);
 
     Files& files_;
     std::string path_;
-    std::string damage_;
+    DamageReport report_;
     IniFile content_;
 };
 

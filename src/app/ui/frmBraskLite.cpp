@@ -113,10 +113,8 @@ void frmBraskLite::FormLoad() {
 
 void frmBraskLite::LoadOptions() {
     const Settings::LoadingGuard guard(session_.Options);
-    const bool fahrenheitInForce = session_.Unit.Fahrenheit();
-    ProgramOptions options = LoadProgramOptions(session_.Options, system_.User, system_.Words);
-    // the unit may be another one than the stored for this run
-    options.Fahrenheit = fahrenheitInForce;
+    const ProgramOptions options =
+        LoadProgramOptions(session_.Options, system_.User, system_.Words);
     graphOptions_->ShowOptions(options);
     ShowDirectories(options);
     programOptions_->ShowAddresses(ToQt(session_.Options.Get("InstrumentAddress")),
@@ -149,10 +147,7 @@ void frmBraskLite::ShowCaption(const std::string& caption) { setWindowTitle(ToQt
 void frmBraskLite::ShowChart() {
     if (plotting_.Plot.Curves().empty()) dataPage_->LetGo();
     graphPage_->ShowChart();
-    if (session_.Data.ReadingCount == 0 ||
-        session_.Options.Index("GraphType", 3) != static_cast<int>(GraphType::kContinuous)) {
-        return;
-    }
+    if (session_.Data.ReadingCount == 0 || document_.Layout() != GraphType::kContinuous) return;
     const AxisRange& range = plotting_.Plot.X.Range();
     graphOptions_->ShowPeriod(ToQt(FormatReadingTime(range.Minimum)),
                               ToQt(FormatReadingTime(range.Maximum)));

@@ -100,18 +100,13 @@ Status PosixFiles::CopyToNew(const std::string& source, const std::string& targe
     if (!opened.Ok()) return opened.Why();
     auto started = posix::PosixReplacementFile::Start(target, true);
     if (!started.Ok()) return started.Why();
-    std::string block(std::size_t{256} * 1024, '\0');
-    for (;;) {
-        const auto read = opened.Value()->Read(block);
-        if (!read.Ok()) return read.Why();
-        if (read.Value() == 0) return started.Value()->Commit();
-        Status written = started.Value()->Write({block.data(), read.Value()});
-        if (!written.Ok()) return written;
-    }
+    constexpr std::size_t kBlock = std::size_t{256} * 1024;
+    return CopyAndCommit(*opened.Value(), *started.Value(), kBlock);
 }
 
 Status PosixFiles::Move(const std::string& source, const std::string& target) {
-    return ::rename(source.c_str(), target.c_str()) == 0 ? Status() : LastError();
+    if (::rename(source.c_str(), target.c_str()) != 0) return LastError();
+    return posix::FlushDirectory(posix::DirectoryOf(target));
 }
 
 Status PosixFiles::Remove(const std::string& path) {
@@ -135,6 +130,13 @@ bool PosixFiles::Exists(const std::string& path) const { return ::access(path.c_
 bool PosixFiles::IsDirectory(const std::string& path) const {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool PosixFiles::SameFile(const std::string& a, const std::string& b) const {
+    struct stat first {};
+    struct stat second {};
+    return ::stat(a.c_str(), &first) == 0 && ::stat(b.c_str(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 Result<std::unique_ptr<FileLock>> PosixFiles::Lock(const std::string& path) {

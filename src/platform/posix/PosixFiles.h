@@ -18,6 +18,7 @@ class PosixFiles final : public Files {
     Status MakeDirectoryChain(const std::string& path) override;
     bool Exists(const std::string& path) const override;
     bool IsDirectory(const std::string& path) const override;
+    bool SameFile(const std::string& a, const std::string& b) const override;
     Result<std::unique_ptr<FileLock>> Lock(const std::string& path) override;
     std::string Folder(KnownFolder folder) const override;
     std::string Absolute(const std::string& path) const override;

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -56,6 +57,13 @@ inline Status WriteAll(int descriptor, std::string_view bytes) {
         bytes.remove_prefix(static_cast<std::size_t>(written));
     }
     return {};
+}
+
+// The directory that a path lies in.
+inline std::string DirectoryOf(const std::string& path) {
+    const auto slash = path.find_last_of('/');
+    if (slash == std::string::npos) return ".";
+    return slash == 0 ? "/" : path.substr(0, slash);
 }
 
 // Flushes a directory, so that a name made or changed in it survives a power cut.

@@ -11,12 +11,6 @@ namespace {
 
 constexpr std::size_t kPendingLimit = std::size_t{256} * 1024;
 
-std::string DirectoryOf(const std::string& path) {
-    const auto slash = path.find_last_of('/');
-    if (slash == std::string::npos) return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
-}
-
 // The file that a link names; the path itself when it is no link or leads nowhere.
 std::string FollowLinks(const std::string& path) {
     char resolved[PATH_MAX];

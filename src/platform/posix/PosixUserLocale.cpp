@@ -30,9 +30,11 @@ LongDateOrder DateOrderOfFormat(const std::string& format) {
 
 PosixUserLocale::PosixUserLocale(const char* name) {
     // only what is asked for: loading all categories costs more than reading a small data file
-    constexpr int kCategories = LC_TIME_MASK | LC_NUMERIC_MASK;
-    locale_t locale = newlocale(kCategories, name, nullptr);
-    if (locale == nullptr) locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    for (const int category : {LC_TIME_MASK, LC_NUMERIC_MASK}) {
+        // one category that the system does not have must not cost the other
+        if (const locale_t with = newlocale(category, name, locale); with != nullptr) locale = with;
+    }
     handle_ = reinterpret_cast<Handle*>(locale);
 }
 
@@ -55,6 +57,8 @@ std::string PosixUserLocale::Format(const char* format, const CivilDateTime& tim
     fields.tm_hour = time.Hour;
     fields.tm_min = time.Minute;
     fields.tm_sec = time.Second;
+    // some countries write the day of the week, too: this fills it in
+    static_cast<void>(timegm(&fields));
     char text[256];
     const auto length =
         strftime_l(text, sizeof text, format, &fields, reinterpret_cast<locale_t>(handle_));

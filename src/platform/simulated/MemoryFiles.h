@@ -32,6 +32,9 @@ class MemoryFiles final : public Files {
     Status MakeDirectoryChain(const std::string& path) override;
     bool Exists(const std::string& path) const override;
     bool IsDirectory(const std::string& path) const override;
+    bool SameFile(const std::string& a, const std::string& b) const override {
+        return Absolute(a) == Absolute(b) && Exists(a);
+    }
     Result<std::unique_ptr<FileLock>> Lock(const std::string& path) override;
     // "/home/documents", "/home/shared", "/home/missing", "/home/settings", "/home/state",
     // "/home/log".
