@@ -78,17 +78,6 @@ TEST_F(MainWindow, ShowsAFileAndReturnsToNoDataAfterOneWithoutReadings) {
               QStringLiteral("0 readings, 2 lines rejected"));
 }
 
-TEST_F(MainWindow, NoMoreMessagesHoldsForOneFile) {
-    Start();
-    User.RepeatedWanted = 1;
-    Open("/data/bad.csv");
-    EXPECT_EQ(User.Shown.size(), 2U);  // the first bad line and "No data was read"
-    User.Shown.clear();
-    User.RepeatedWanted = 2;
-    Open("/data/bad.csv");
-    EXPECT_EQ(User.Shown.size(), 3U);
-}
-
 TEST_F(MainWindow, CommandsThatWouldDisturbALoadAreDisabledWhileItRuns) {
     Start();
     Open("/data/three.csv");
@@ -140,9 +129,6 @@ TEST_F(MainWindow, GridTabWithoutReadingsReturnsToTheTabBefore) {
                       tabs->tabBar()->tabRect(1).center());
     EXPECT_EQ(tabs->currentIndex(), 2);
     EXPECT_THAT(User.ShownTexts(), ElementsAre(kNoDataYet));
-    tabs->setCurrentIndex(1);
-    EXPECT_EQ(tabs->currentIndex(), 2);
-    EXPECT_THAT(User.ShownTexts(), ElementsAre(kNoDataYet, kNoDataYet));
 }
 
 TEST_F(MainWindow, GridShowsTheReadingsOfTheLastLoadInTheUnitInForce) {

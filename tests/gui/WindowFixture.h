@@ -9,6 +9,7 @@
 #include "app/ui/frmBraskLite.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScriptedChoosers.h"
+#include "platform/simulated/FixedSystemInformation.h"
 #include "platform/simulated/FixedUserLocale.h"
 #include "platform/simulated/ManualClock.h"
 #include "platform/simulated/MemoryFiles.h"
@@ -16,15 +17,6 @@
 #include "platform/simulated/ScriptedUserInterface.h"
 
 namespace brask {
-
-class PlainSystemInformation final : public SystemInformation {
-  public:
-    std::optional<VersionRecord> Version() const override { return VersionRecord{}; }
-    std::string ErrorText(int number) const override { return number == 17 ? "File exists" : ""; }
-    std::string RegistryText(const std::string&, const std::string&) const override { return ""; }
-    std::string UserName() const override { return "tester"; }
-    std::string ProgramDirectory() const override { return "/programs"; }
-};
 
 class WindowFixture : public testing::Test {
   protected:
@@ -81,7 +73,7 @@ class WindowFixture : public testing::Test {
     EnglishTexts texts_;
     FixedUserLocale locale_;
     ManualClock clock_;
-    PlainSystemInformation information_;
+    FixedSystemInformation information_;
     DiagnosticLog log_{Disk, clock_};
 
   protected:

@@ -1,4 +1,4 @@
-// Runs the built programs in an empty home of their own and keeps what they wrote.
+// Runs the built program in an empty home of its own and keeps what it wrote.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -18,14 +18,13 @@ struct Finished {
 
 class ProgramTest : public testing::Test {
   protected:
-    // Makes the home and sends the programs there.
+    // Makes the home and sends the program there.
     ProgramTest();
     ~ProgramTest() override;
 
-    // Runs a program of the build, brask unless told otherwise; its standard output goes to `out`
-    // instead of Finished::Out when that is given.
-    Finished Run(const std::vector<std::string>& arguments, const std::string& program = "brask",
-                 const std::string& out = "") const;
+    // Runs brask; its standard output goes to the file `out` instead of Finished::Out when that is
+    // given.
+    Finished Run(const std::vector<std::string>& arguments, const std::string& out = "") const;
     // Runs brask with --json; the one document, null (and a failure) when there is none.
     rapidjson::Document Json(std::vector<std::string> arguments, int expectedStatus = 0) const;
 
@@ -40,6 +39,9 @@ class ProgramTest : public testing::Test {
   private:
     std::filesystem::path home_;
 };
+
+// The words with more behind them.
+std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more);
 
 // A data line in the instrument's form.
 std::string DataLine(const std::string& time, const std::string& gas, const std::string& celsius);

@@ -143,10 +143,9 @@ Result<std::unique_ptr<FileLock>> PosixFiles::Lock(const std::string& path) {
     using namespace std::chrono_literals;
     Handle handle(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
     if (!handle.Open()) return LastError();
-    constexpr int kAttempts = 200;
-    for (int attempt = 0; ::flock(handle.Get(), LOCK_EX | LOCK_NB) != 0; ++attempt) {
+    for (auto waited = 0ms; ::flock(handle.Get(), LOCK_EX | LOCK_NB) != 0; waited += 10ms) {
         if (errno != EWOULDBLOCK && errno != EINTR) return LastError();
-        if (attempt == kAttempts) return Error{0, "another program holds " + path};
+        if (waited >= lockPatience_) return Error{0, "another program holds " + path};
         std::this_thread::sleep_for(10ms);
     }
     std::unique_ptr<FileLock> lock = std::make_unique<PosixFileLock>(std::move(handle));

@@ -1,12 +1,18 @@
 // Files on a POSIX system. Folders follow the XDG base directories.
 #pragma once
 
+#include <chrono>
+
 #include "platform/Files.h"
 
 namespace brask {
 
 class PosixFiles final : public Files {
   public:
+    // How long Lock() waits for another program to let go of the lock.
+    explicit PosixFiles(std::chrono::milliseconds lockPatience = std::chrono::seconds(2))
+        : lockPatience_(lockPatience) {}
+
     Result<std::unique_ptr<InputFile>> Open(const std::string& path) override;
     Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) override;
     Status Append(const std::string& path, std::string_view bytes) override;
@@ -23,6 +29,9 @@ class PosixFiles final : public Files {
     std::string Folder(KnownFolder folder) const override;
     std::string Absolute(const std::string& path) const override;
     char Separator() const override { return '/'; }
+
+  private:
+    std::chrono::milliseconds lockPatience_;
 };
 
 }  // namespace brask

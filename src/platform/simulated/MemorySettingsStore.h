@@ -1,9 +1,8 @@
-// A settings store that lives as long as the test, remembers the order of questions and can fail.
+// A settings store that lives as long as the test and can fail.
 #pragma once
 
 #include <map>
 #include <string>
-#include <vector>
 
 #include "platform/SettingsStore.h"
 
@@ -12,11 +11,9 @@ namespace brask {
 class MemorySettingsStore final : public SettingsStore {
   public:
     std::map<std::string, std::string> Values;
-    mutable std::vector<std::string> Asked;  // keys, in the order of Get
-    bool Full = false;                       // saving fails, as on a full disk
+    bool Full = false;  // saving fails, as on a full disk
 
     std::string Get(const std::string& key, const std::string& defaultValue) const override {
-        Asked.push_back(key);
         const auto found = Values.find(key);
         return found == Values.end() ? defaultValue : found->second;
     }

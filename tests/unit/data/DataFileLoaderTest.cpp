@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "data/DataFileLoader.h"
-#include "platform/posix/PosixFiles.h"
 #include "platform/simulated/ManualClock.h"
 #include "platform/simulated/MemoryFiles.h"
 #include "platform/simulated/ScriptedUserInterface.h"
@@ -33,25 +32,19 @@ class DataFileLoaderTest : public testing::Test {
 };
 
 TEST_F(DataFileLoaderTest, ExactMessagesOfBadLines) {
-    const std::string behind = "\r\nIgnoring this line of data";
-    EXPECT_EQ(Load("/f.csv",
-                   "JAN-01-2003 00:05:12,    abc,  26.1\r\n"
-                   "FEB-30-2003 00:05:12,    0.1,  26.1\r\n"
-                   "JAN-01-2003 00:05:12,    0.1,  2\xB0"
-                   "C\r\n" +
-                       kLine),
+    const std::string bad[] = {"JAN-01-2003 00:05:12,    abc,  26.1",
+                               "FEB-30-2003 00:05:12,    0.1,  26.1",
+                               "JAN-01-2003 00:05:12,    0.1,  2\xB0 C"};
+    EXPECT_EQ(Load("/f.csv", bad[0] + "\r\n" + bad[1] + "\r\n" + bad[2] + "\r\n" + kLine),
               LoadOutcome::kRead);
+    const auto text = [](const std::string& what, const std::string& line) {
+        return what + " is invalid\r\nOriginal Line=" + line + "\r\nIgnoring this line of data";
+    };
     EXPECT_THAT(
         user_.ShownTexts(),
-        ElementsAre("Gas PPM   26.1 is invalid\r\n"
-                    "Original Line=JAN-01-2003 00:05:12,    abc,  26.1" +
-                        behind,
-                    "Date of FEB-30-2003 00:05:12 [Input as FEB-30-2003 00:05:12] is invalid\r\n"
-                    "Original Line=FEB-30-2003 00:05:12,    0.1,  26.1" +
-                        behind,
-                    "Temperature of   2°C is invalid\r\n"
-                    "Original Line=JAN-01-2003 00:05:12,    0.1,  2°C" +
-                        behind));
+        ElementsAre(text("Gas PPM   26.1", bad[0]),
+                    text("Date of FEB-30-2003 00:05:12 [Input as FEB-30-2003 00:05:12]", bad[1]),
+                    text("Temperature of   2° C", "JAN-01-2003 00:05:12,    0.1,  2° C")));
     EXPECT_EQ(user_.Shown[0].Title, "VEK Talvex© K42   Brask Lite");
     EXPECT_EQ(loader_.RejectedLines(), 3);
     EXPECT_THAT(user_.Begun, ElementsAre(ProgressMode::kReadingFile));
@@ -69,19 +62,6 @@ TEST_F(DataFileLoaderTest, MessagesCanBeSwitchedOffForOneLoad) {
     EXPECT_EQ(user_.Shown.size(), 1002U) << "the next load shows them again";
 }
 
-TEST_F(DataFileLoaderTest, LoadsWithoutReadings) {
-    EXPECT_EQ(loader_.LoadDataFile({}), LoadOutcome::kNoFile);
-    EXPECT_TRUE(user_.Shown.empty());
-    EXPECT_EQ(Load("/f.csv", "GAS: CO\r\n"), LoadOutcome::kNothingRead);
-    EXPECT_THAT(user_.ShownTexts(), ElementsAre("No data was read"));
-    EXPECT_EQ(data_.CurrentDataFile, "/f.csv");
-    EXPECT_TRUE(user_.Notices.empty());
-
-    EXPECT_EQ(Load("/lf.csv", kLine.substr(0, 35) + "\nGAS: CO\n"), LoadOutcome::kNothingRead);
-    ASSERT_EQ(user_.Notices.size(), 1U);
-    EXPECT_EQ(user_.Notices[0].substr(0, 6), "lf.csv");
-}
-
 TEST_F(DataFileLoaderTest, TempDirectoriesAreNotRead) {
     for (const char* path : {"/temp/f.csv", "/a/Temp/b/f.csv", "/TEMP/f.csv"}) {
         EXPECT_EQ(Load(path, kLine), LoadOutcome::kNothingRead) << path;
@@ -93,12 +73,6 @@ TEST_F(DataFileLoaderTest, TempDirectoriesAreNotRead) {
 }
 
 TEST_F(DataFileLoaderTest, AFileThatCannotBeReadSaysWhy) {
-    data_.CurrentDataFile = "/none.csv";
-    EXPECT_EQ(loader_.LoadDataFile({}), LoadOutcome::kNothingRead);
-    EXPECT_THAT(user_.ShownTexts(), ElementsAre("Cannot read /none.csv: No such file or directory",
-                                                "No data was read"));
-    user_.Shown.clear();
-    disk_.Operations = 0;
     disk_.FailAt = 2;  // open, the block, the next one
     EXPECT_EQ(Load("/f.csv", kLine), LoadOutcome::kRead);
     EXPECT_THAT(user_.ShownTexts(), ElementsAre("Cannot read /f.csv: Input/output error"));
@@ -128,22 +102,6 @@ TEST_F(DataFileLoaderTest, TooLongLinesGoToTheLogWithTheirNumber) {
     EXPECT_EQ(data_.ReadingCount, 2);
     EXPECT_EQ(loader_.RejectedLines(), 0);
     EXPECT_TRUE(user_.Shown.empty());
-}
-
-TEST_F(DataFileLoaderTest, TheSampleFiles) {
-    PosixFiles disk;
-    DataFileLoader loader(data_, user_, texts_, disk, log_);
-    const std::pair<const char*, std::int32_t> samples[] = {{"/air-quality-april.csv", 468},
-                                                            {"/air-quality-year.csv", 7344}};
-    for (const auto& [name, count] : samples) {
-        data_.CurrentDataFile = BRASK_SAMPLES + std::string(name);
-        EXPECT_EQ(loader.LoadDataFile({}), LoadOutcome::kRead);
-        EXPECT_EQ(data_.ReadingCount, count);
-        EXPECT_TRUE(user_.Shown.empty());
-    }
-    data_.CurrentDataFile = BRASK_SAMPLES;
-    EXPECT_EQ(loader.LoadDataFile({}), LoadOutcome::kNothingRead);
-    EXPECT_NE(user_.Shown[0].Text.find("Is a directory"), std::string::npos);
 }
 
 }  // namespace

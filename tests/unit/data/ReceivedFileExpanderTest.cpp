@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "data/ReceivedFileExpander.h"
 #include "platform/simulated/MemoryFiles.h"
 
@@ -8,28 +10,23 @@ namespace {
 
 std::string Repeat(int count) { return {static_cast<char>(128 + count)}; }
 
-class ReceivedFileExpanderTest : public testing::Test {
-  protected:
+struct Transfers {
+    // Also holds the number of lines that was reported against the one that was written.
     std::string Expand(const std::string& raw) {
-        disk_.Contents["/raw"] = raw;
-        const auto lines = expander_.ExpandReceivedFile("/raw", "/data.csv");
-        EXPECT_TRUE(lines.Ok());
-        lines_ = lines.Ok() ? lines.Value() : -1;
-        return disk_.Contents["/data.csv"];
+        Disk.Contents["/raw"] = raw;
+        const auto lines = Expander.ExpandReceivedFile("/raw", "/data.csv");
+        const std::string& data = Disk.Contents["/data.csv"];
+        EXPECT_EQ(lines.Ok() ? lines.Value() : -1, std::count(data.begin(), data.end(), '\n'));
+        return data;
     }
 
-    MemoryFiles disk_;
-    ReceivedFileExpander expander_{disk_};
-    std::int64_t lines_ = 0;
+    MemoryFiles Disk;
+    ReceivedFileExpander Expander{Disk};
 };
 
 TEST(ReceivedFileExpander, Streams) {
     const std::string nul(1, '\0');
-    struct Case {
-        std::string Raw;
-        std::string Data;
-    };
-    const Case cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"AB\r\n" + Repeat(2) + "C\r\n", "AB\r\nABC\r\n"},
         {"AB" + nul + "\r" + nul + nul + "\n" + nul + Repeat(1) + nul + "X\r\n", "AB\r\nAX\r\n"},
         {"ABCD\r\nx" + Repeat(2) + "y" + Repeat(127), "ABCD\r\nxBCy\r\n"},
@@ -39,29 +36,22 @@ TEST(ReceivedFileExpander, Streams) {
         {"AB\n" + Repeat(2) + "C\r\n", "A\r\nABC\r\n"},
         {"\n\r\nA\n", "\r\n\r\n\r\n"},
         {"AB\r\nunfinished", "AB\r\n"},
-        {"", ""},
-        {"first\r\njunkINSTRUMENT: K42\r\nxINSTRUMENT: y\r\n",
-         "first\r\nINSTRUMENT: K42\r\nxINSTRUMENT: y\r\n"},
-        {"xinstrument: K42\r\n", "xinstrument: K42\r\n"},
+        {"1\r\njunkINSTRUMENT: K42\r\nxINSTRUMENT: y\r\n",
+         "1\r\nINSTRUMENT: K42\r\nxINSTRUMENT: y\r\n"},
         {"junkINSTRUMENT: K42\r\n" + Repeat(4) + "\r\n", "INSTRUMENT: K42\r\nINST\r\n"}};
-    for (const Case& test : cases) {
-        MemoryFiles disk;
-        disk.Contents["/raw"] = test.Raw;
-        const auto lines = ReceivedFileExpander(disk).ExpandReceivedFile("/raw", "/data.csv");
-        ASSERT_TRUE(lines.Ok());
-        EXPECT_EQ(disk.Contents["/data.csv"], test.Data);
-        EXPECT_EQ(lines.Value(), std::count(test.Data.begin(), test.Data.end(), '\n'));
-    }
+    for (const auto& [raw, data] : cases) EXPECT_EQ(Transfers().Expand(raw), data);
 }
 
-TEST_F(ReceivedFileExpanderTest, ThePreviousLineSurvivesToTheNextTransfer) {
-    EXPECT_EQ(Expand("INSTRUMENT: K42\r\nunfinished"), "INSTRUMENT: K42\r\n");
-    EXPECT_EQ(Expand("x" + Repeat(4) + "\r\n"), "xNSTR\r\n") << "not the unfinished line";
-    EXPECT_EQ(Expand("yyINSTRUMENT: 2\r\n"), "INSTRUMENT: 2\r\n") << "seen anew in each transfer";
+TEST(ReceivedFileExpander, ThePreviousLineSurvivesToTheNextTransfer) {
+    Transfers transfers;
+    EXPECT_EQ(transfers.Expand("INSTRUMENT: K42\r\nunfinished"), "INSTRUMENT: K42\r\n");
+    EXPECT_EQ(transfers.Expand("x" + Repeat(4) + "\r\n"), "xNSTR\r\n") << "not the unfinished line";
+    EXPECT_EQ(transfers.Expand("yyINSTRUMENT: 2\r\n"), "INSTRUMENT: 2\r\n")
+        << "seen anew in each transfer";
 }
 
 // Compresses as the instrument does and expands across many blocks.
-TEST_F(ReceivedFileExpanderTest, LongTransfersComeBackWhole) {
+TEST(ReceivedFileExpander, LongTransfersComeBackWhole) {
     std::string data;
     std::string raw;
     std::string previous;
@@ -78,19 +68,20 @@ TEST_F(ReceivedFileExpanderTest, LongTransfersComeBackWhole) {
         previous = line;
     }
     ASSERT_GT(raw.size(), 90000U);
-    EXPECT_EQ(Expand(raw), data);
-    EXPECT_EQ(lines_, 20000);
+    EXPECT_EQ(Transfers().Expand(raw), data);
 }
 
-TEST_F(ReceivedFileExpanderTest, FailureAtEveryStepLeavesTheOldDataFile) {
+TEST(ReceivedFileExpander, FailureAtEveryStepLeavesTheOldDataFile) {
+    Transfers transfers;
+    MemoryFiles& disk = transfers.Disk;
     bool done = false;
     for (int at = 0; !done; ++at) {
-        disk_.Contents = {{"/raw", "AB\r\nC\r\n"}, {"/data.csv", "old"}};
-        disk_.Operations = 0;
-        disk_.FailAt = at;
-        done = expander_.ExpandReceivedFile("/raw", "/data.csv").Ok();
-        EXPECT_EQ(disk_.Contents["/data.csv"], done ? "AB\r\nC\r\n" : "old");
-        EXPECT_EQ(disk_.Contents["/raw"], "AB\r\nC\r\n");
+        disk.Contents = {{"/raw", "AB\r\nC\r\n"}, {"/data.csv", "old"}};
+        disk.Operations = 0;
+        disk.FailAt = at;
+        done = transfers.Expander.ExpandReceivedFile("/raw", "/data.csv").Ok();
+        EXPECT_EQ(disk.Contents["/data.csv"], done ? "AB\r\nC\r\n" : "old");
+        EXPECT_EQ(disk.Contents["/raw"], "AB\r\nC\r\n");
         ASSERT_LT(at, 20);
     }
 }

@@ -18,16 +18,6 @@ struct TwoSections {
     explicit TwoSections(Files& disk) : File(disk, kPath) {}
 };
 
-TEST(IniSettingsStore, FirstSaveMakesDirectoryAndFile) {
-    MemoryFiles disk;
-    TwoSections store(disk);
-    EXPECT_EQ(store.Known.Get("GraphType", "0"), "0");
-    ASSERT_TRUE(store.Known.Save("GraphType", "2").Ok());
-    ASSERT_TRUE(store.Own.Save("GraphType", "own").Ok());
-    EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nGraphType=2\n[Window]\nGraphType=own\n");
-    EXPECT_EQ(TwoSections(disk).Known.Get("GraphType", "0"), "2");
-}
-
 TEST(IniSettingsStore, TwoRunningProgramsKeepEachOthersKeys) {
     MemoryFiles disk;
     TwoSections first(disk);
@@ -40,25 +30,21 @@ TEST(IniSettingsStore, TwoRunningProgramsKeepEachOthersKeys) {
 }
 
 TEST(IniSettingsStore, DamagedFileIsSetAsideAndReported) {
-    struct Case {
-        std::string Content;
-        std::string Damage;
-    };
-    const Case cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"[Brask Lite]\nnot a setting\n", "line 2 is no Key=Value line"},
         {std::string("a=\0", 3), "line 1 holds a zero byte"},
         {std::string(IniSettingsFile::kSizeLimit + 1, ';'), "the file is larger than expected"}};
-    for (const Case& test : cases) {
+    for (const auto& [content, damage] : cases) {
         MemoryFiles disk;
-        disk.Contents[kPath] = test.Content;
+        disk.Contents[kPath] = content;
         TwoSections store(disk);
-        EXPECT_EQ(store.File.Damage(), test.Damage);
-        EXPECT_EQ(disk.Contents[kPath + ".bad"], test.Content);
+        EXPECT_EQ(store.File.Damage(), damage);
+        EXPECT_EQ(disk.Contents[kPath + ".bad"], content);
         EXPECT_FALSE(disk.Contents.contains(kPath));
         EXPECT_EQ(store.Known.Get("GraphType", "0"), "0");
         ASSERT_TRUE(store.Known.Save("GraphType", "1").Ok());
         EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nGraphType=1\n");
-        EXPECT_EQ(disk.Contents[kPath + ".bad"], test.Content);
+        EXPECT_EQ(disk.Contents[kPath + ".bad"], content);
     }
 }
 

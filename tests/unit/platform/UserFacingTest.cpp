@@ -13,57 +13,33 @@ namespace brask {
 namespace {
 
 TEST(Texts, PlacesAreFilledInOnePass) {
-    struct Case {
-        const char* Wording;
-        std::vector<std::string_view> Arguments;
-        std::string Filled;
-    };
-    const Case cases[] = {{"%1 and %2", {"a", "b"}, "a and b"},
-                          {"%2%1%2", {"a", "b"}, "bab"},
-                          {"%1, %2", {"%2", "%1"}, "%2, %1"},
-                          {"%1 of %2", {"a"}, "a of %2"},
-                          {"100% %0 %x %", {"a"}, "100% %0 %x %"},
-                          {"%%1", {"a"}, "%a"},
-                          {"%10", {"a"}, "a0"}};
-    for (const Case& test : cases) {
-        const TextRow row("test", test.Wording);
-        const EnglishTexts texts;
-        const auto& given = test.Arguments;
-        EXPECT_EQ(
-            given.size() == 1 ? texts.Fill(row, {given[0]}) : texts.Fill(row, {given[0], given[1]}),
-            test.Filled);
+    const std::pair<const char*, const char*> cases[] = {
+        {"%1 and %2", "a% and %1"}, {"%2%1%2", "%1a%%1"}, {"%1 of %3", "a% of %3"},
+        {"%0 %x %", "%0 %x %"},     {"%%1", "%a%"},       {"%10", "a%0"}};
+    for (const auto& [wording, filled] : cases) {
+        EXPECT_EQ(EnglishTexts().Fill(TextRow("test", wording), {"a%", "%1"}), filled);
     }
 }
 
 TEST(ProgramError, RetryCancelAndOkAlone) {
     struct Case {
-        ProgramError Error;
-        std::deque<bool> Answers;
+        const char* Step;
+        bool Retry;
+        bool Answer;
         std::string Text;
-        bool Result;
-        bool Ended;
     };
-    const Case cases[] = {
-        {{"Load", "No", "", true},
-         {true},
-         "Error Description:No\r\n[Load]\r\n(Cancel Ends Program)",
-         true,
-         false},
-        {{"Load", "No", "Step 2", true},
-         {false},
-         "Error Description:No\r\n[Step 2]\r\n(Cancel Ends Program)",
-         false,
-         true},
-        {{"Load", "No", "Step 2", false}, {}, "Error Description:No\r\n[Step 2]", true, false}};
-    for (const Case& test : cases) {
+    const Case cases[] = {{"", true, true, "[Load]\r\n(Cancel Ends Program)"},
+                          {"Step 2", true, false, "[Step 2]\r\n(Cancel Ends Program)"},
+                          {"Step 2", false, true, "[Step 2]"}};
+    for (const auto& [step, retry, answer, text] : cases) {
         ScriptedUserInterface user;
-        user.Answers = test.Answers;
-        EXPECT_EQ(ShowProgramError(user, EnglishTexts(), test.Error), test.Result);
-        EXPECT_EQ(user.Ended(), test.Ended);
+        user.Answers = {answer};
+        EXPECT_EQ(ShowProgramError(user, EnglishTexts(), {"Load", "No", step, retry}), answer);
+        EXPECT_EQ(user.Ended(), !answer);
         ASSERT_EQ(user.Shown.size(), 1U);
         EXPECT_EQ(user.Shown[0].Title, "Load Error");
-        EXPECT_EQ(user.Shown[0].Text, test.Text);
-        EXPECT_TRUE(user.Answers.empty()) << "a dialog without a choice asks nothing";
+        EXPECT_EQ(user.Shown[0].Text, "Error Description:No\r\n" + text);
+        EXPECT_EQ(user.Answers.size(), retry ? 0U : 1U) << "without a choice nothing is asked";
     }
 }
 
