@@ -17,7 +17,8 @@ constexpr auto kSecondSteps = std::to_array<std::int64_t>(
 constexpr auto kMonthSteps = std::to_array<std::int64_t>(
     {1, 2, 3, 6, 12, 24, 60, 120, 240, 600, 1200, 2400, 6000, 12000, 60000, 120000});
 
-// Whole seconds since 30 December 1899 that the range holds, within the years 100 to 9999.
+// Whole seconds since 30 December 1899 that the range holds, within the years 100 to 9999; First
+// lies behind Last when there are none.
 struct SecondRange {
     std::int64_t First;
     std::int64_t Last;
@@ -29,6 +30,9 @@ SecondRange SecondsOf(const AxisRange& range) {
     const auto [low, high] = std::minmax(range.Minimum, range.Maximum);
     // serials of whole seconds are rounded numbers: one that lies at the very end still counts
     constexpr double kSlack = 1e-4;
+    if (low * kSecondsPerDay > kLast + kSlack || high * kSecondsPerDay < kFirst - kSlack) {
+        return {1, 0};
+    }
     return {static_cast<std::int64_t>(
                 std::ceil(std::clamp(low * kSecondsPerDay - kSlack, kFirst, kLast))),
             static_cast<std::int64_t>(

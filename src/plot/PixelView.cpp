@@ -10,13 +10,15 @@ constexpr double kGreatestShown = 1e249;  // the drawing library ignores ranges 
 // Below this share of the values' size, neighbouring pixels are the same double.
 constexpr double kLeastRelativeWidth = 1e-12;
 constexpr double kLeastWidth = 1e-12;
-constexpr double kFarthestPixel = 1e18;
+// Positions in widths of the range. No reading lies farther off, at the narrowest range that is
+// drawn; a few overlong values do, and cutting a line that ends much farther off loses the pixel.
+constexpr double kFarthest = 1e13;
 
 // Where a value lies, 0 at the minimum and 1 at the maximum. Halved first: the difference of two
 // large values of opposite sign overflows.
 double Share(double value, const AxisRange& range) {
     const double share = (value / 2 - range.Minimum / 2) / (range.Maximum / 2 - range.Minimum / 2);
-    return std::clamp(share, -kFarthestPixel, kFarthestPixel);
+    return std::clamp(share, -kFarthest, kFarthest);
 }
 
 // Cuts the line from `from` to `to` at the two ends of one coordinate; false when it lies outside.

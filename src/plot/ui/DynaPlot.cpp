@@ -1,5 +1,6 @@
 #include "plot/ui/DynaPlot.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 #include "plot/AxisTicks.h"
@@ -17,6 +18,13 @@ constexpr int kAxisTitlePoints = 10;
 constexpr int kCaptionPoints = 9;
 constexpr double kWidestMoment = 38260.9513;  // a two-digit day and hour
 constexpr int kRoomBesideAxis = 130;          // value axes with their titles, pixels
+
+// Without group separators: "10.000" would be read as ten.
+QLocale NumberLocale(const UserLocale& user) {
+    QLocale locale = user.DecimalSign() == ',' ? QLocale(QLocale::German) : QLocale::c();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
+}
 
 QFont PlotFont(int points) { return {kFontName, points}; }
 
@@ -51,7 +59,7 @@ void SetRange(QCPAxis& axis, const AxisRange& range, double halfWidth) {
 DynaPlot::DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent)
     : QCustomPlot(parent), chart_(chart), locale_(locale) {
     setFocusPolicy(Qt::StrongFocus);
-    setLocale(locale.DecimalSign() == ',' ? QLocale(QLocale::German) : QLocale::c());
+    setLocale(NumberLocale(locale));
     xAxis->setTicker(
         QSharedPointer<ChartTicker>::create(chart, locale, [this] { return MostDateLabels(); }));
     xAxis->setSubTicks(false);
@@ -149,9 +157,15 @@ void DynaPlot::ShowBackground() {
 }
 
 QPixmap DynaPlot::BackgroundPicture() {
-    if (pictureFile_ != chart_.Background.PictureFile) {
-        pictureFile_ = chart_.Background.PictureFile;
-        picture_ = pictureFile_.empty() ? QPixmap() : QPixmap(QString::fromStdString(pictureFile_));
+    const std::string& file = chart_.Background.PictureFile;
+    const QFileInfo info(QString::fromStdString(file));
+    // only a regular file: opening a pipe would wait for ever
+    const bool readable = !file.empty() && info.isFile();
+    const QDateTime changed = readable ? info.lastModified() : QDateTime();
+    if (pictureFile_ != file || pictureChanged_ != changed) {
+        pictureFile_ = file;
+        pictureChanged_ = changed;
+        picture_ = readable ? QPixmap(info.filePath()) : QPixmap();
     }
     return picture_;
 }

@@ -3,6 +3,7 @@
 
 #include <qcustomplot.h>
 
+#include <QDateTime>
 #include <QImage>
 #include <string>
 
@@ -32,6 +33,8 @@ class DynaPlot : public QCustomPlot {
     void ShowXAxis();
     void ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale);
     void ShowBackground();
+    // Empty when there is no such file or it cannot be read as a picture; the file is read again
+    // once it has changed.
     QPixmap BackgroundPicture();
     std::size_t MostDateLabels() const;
 
@@ -42,6 +45,7 @@ class DynaPlot : public QCustomPlot {
     QCPTextElement* readout_ = nullptr;
     QPixmap picture_;  // the background, as read from pictureFile_
     std::string pictureFile_;
+    QDateTime pictureChanged_;
 };
 
 }  // namespace brask

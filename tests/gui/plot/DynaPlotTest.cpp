@@ -1,0 +1,169 @@
+// The drawn plot, by its pixels.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QTemporaryDir>
+#include <limits>
+
+#include "platform/simulated/FixedUserLocale.h"
+#include "plot/ui/DynaPlot.h"
+
+namespace brask {
+namespace {
+
+constexpr ColorValue kGasColor{0x0000FF};  // red
+constexpr ColorValue kPaper{0xFFFFFF};
+
+class Drawing : public testing::Test {
+  protected:
+    Curve& Add(std::vector<double> x, std::vector<double> y) {
+        Curve curve;
+        curve.OwnX = std::make_shared<const std::vector<double>>(std::move(x));
+        curve.OwnY = std::make_shared<const std::vector<double>>(std::move(y));
+        curve.X = *curve.OwnX;
+        curve.Y = *curve.OwnY;
+        curve.PyramidX = std::make_shared<const CurvePyramid>(curve.X);
+        curve.PyramidY = std::make_shared<const CurvePyramid>(curve.Y);
+        curve.Color = kGasColor;
+        curve.Marker.Color = kGasColor;
+        Curves.push_back(curve);
+        return Curves.back();
+    }
+    // Also draws the curves that were added.
+    QImage Draw(QSize size = {800, 500}) {
+        Chart1.RemoveCurves();
+        for (const Curve& curve : Curves) Chart1.AddCurve(curve);
+        Plot.ShowChart();
+        return Plot.Picture(size);
+    }
+
+    Chart Chart1;
+    FixedUserLocale Locale;
+    DynaPlot Plot{Chart1, Locale};
+    std::vector<Curve> Curves;
+};
+
+// Or half red, as a thin line between two rows of pixels is.
+bool IsRed(QRgb pixel) { return qRed(pixel) > 200 && qGreen(pixel) < 160 && qBlue(pixel) < 160; }
+
+// Red pixels in each row.
+std::vector<int> RedRows(const QImage& picture) {
+    std::vector<int> rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        rows.push_back(0);
+        for (int x = 0; x < picture.width(); ++x) rows.back() += IsRed(picture.pixel(x, y)) ? 1 : 0;
+    }
+    return rows;
+}
+int Red(const QImage& picture) {
+    int sum = 0;
+    for (const int row : RedRows(picture)) sum += row;
+    return sum;
+}
+
+TEST_F(Drawing, ASingleSpikeInAMillionReadingsIsSeen) {
+    std::vector<double> x(1000000);
+    std::vector<double> y(x.size(), 1.0);
+    for (std::size_t i = 0; i < x.size(); ++i) x[i] = static_cast<double>(i);
+    y[654321] = 99;
+    Add(x, y);
+    Chart1.X.SetRange(0, 1e6);
+    Chart1.Y.SetRange(-0.1, 104);
+    const auto rows = RedRows(Draw());
+    const auto spike = std::count_if(rows.begin(), rows.end(), [](int n) { return n == 1; });
+    EXPECT_GT(spike, 250) << "one pixel wide, nearly as high as the axis";
+    EXPECT_GT(*std::max_element(rows.begin(), rows.end()), 500) << "the flat rest";
+}
+
+TEST_F(Drawing, ALineCrossesTheViewBetweenTwoReadings) {
+    Add({0, 1000}, {0, 10});
+    Chart1.X.SetRange(499, 501);
+    Chart1.Y.SetRange(0, 10);
+    EXPECT_GT(Red(Draw()), 500);
+}
+
+TEST_F(Drawing, ADottedCurveHasGapsSparseOrDense) {
+    Chart1.X.SetRange(0, 1);
+    Chart1.Y.SetRange(0, 10);
+    for (const std::size_t readings : {2U, 100000U}) {
+        std::vector<double> x(readings);
+        for (std::size_t i = 0; i < readings; ++i) {
+            x[i] = static_cast<double>(i) / static_cast<double>(readings - 1);
+        }
+        Curve& curve = Add(x, std::vector<double>(readings, 4.9));
+        const int solid = Red(Draw());
+        curve.Line = LineStyle::kDotted;
+        const int dotted = Red(Draw());
+        EXPECT_GT(dotted, solid / 6) << readings;
+        EXPECT_LT(dotted, solid * 2 / 3) << readings;
+        Curves.clear();
+    }
+}
+
+TEST_F(Drawing, PointsAndMarkersOfASingleReading) {
+    Chart1.X.SetRange(1, 1);  // as wide as the only reading
+    Curve& curve = Add({1}, {0.5});
+    EXPECT_EQ(Red(Draw()), 0);
+    for (const CurveStyle style : {CurveStyle::kPoint, CurveStyle::kLineWithMarkers}) {
+        curve.Style = style;
+        EXPECT_EQ(Red(Draw()), 25);
+    }
+}
+
+TEST_F(Drawing, BackgroundPictureIsStretchedOrNotAndMayBeMissing) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("red.png"));
+    QImage red(20, 10, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(file));
+    Chart1.Background.PictureFile = file.toStdString();
+    const QImage stretched = Draw();
+    EXPECT_TRUE(IsRed(stretched.pixel(400, 250)) || IsRed(stretched.pixel(401, 252)));
+    EXPECT_GT(Red(stretched), 300000);
+    Chart1.Background.Stretched = false;
+    EXPECT_EQ(Red(Draw()), 200);
+
+    const QString text = folder.filePath(QStringLiteral("text.png"));
+    QFile unreadable(text);
+    ASSERT_TRUE(unreadable.open(QIODevice::WriteOnly));
+    unreadable.write("no picture");
+    unreadable.close();
+    const QString pipe = folder.filePath(QStringLiteral("pipe.png"));
+    ASSERT_EQ(mkfifo(pipe.toUtf8().constData(), 0600), 0);
+    for (const QString& odd : {text, pipe, folder.path(), folder.filePath(QStringLiteral("no"))}) {
+        Chart1.Background.PictureFile = odd.toStdString();
+        EXPECT_EQ(Red(Draw()), 0) << odd.toStdString();
+    }
+}
+
+TEST_F(Drawing, AnyRangeAndSizeIsDrawn) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kYear100 = -657434;
+    constexpr double kYear9999 = 2958465.99;
+    Add({kYear100, 38000, kYear9999, 38000}, {1, 1e308, -1e308, kInfinity});
+    Add({}, {});
+    const AxisRange ranges[] = {{kYear100, kYear9999}, {kYear9999, kYear100}, {38000, 38000},
+                                {-1e308, 1e308},       {-kInfinity, 5},       {4995, 5}};
+    for (const AxisRange& range : ranges) {
+        for (const char* format : {"%d-%b-%Y\n%X", ""}) {
+            Chart1.Labels.DateFormat = format;
+            Chart1.X.SetRange(range.Minimum, range.Maximum);
+            Chart1.Y.SetRange(range.Maximum, range.Minimum);
+            Chart1.Y1.SetRange(range.Minimum, range.Maximum);
+            for (const QSize size : {QSize(0, 0), QSize(1, 1), QSize(30, 400), QSize(300, 200)}) {
+                EXPECT_EQ(Draw(size).size(), size.expandedTo({1, 1}));
+            }
+        }
+    }
+}
+
+TEST_F(Drawing, AnInvertedAxisHasItsMinimumBelow) {
+    Add({0, 1}, {4000, 4000});
+    Chart1.Y.SetRange(4995, 5);
+    const auto rows = RedRows(Draw());
+    const auto line = std::max_element(rows.begin(), rows.end()) - rows.begin();
+    EXPECT_GT(line, 300) << "a value near the minimum lies near the bottom";
+}
+
+}  // namespace
+}  // namespace brask
