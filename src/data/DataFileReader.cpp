@@ -1,7 +1,6 @@
 #include "data/DataFileReader.h"
 
 #include <array>
-#include <cmath>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -183,8 +182,7 @@ void DataFileReader::AcceptReadingLine(std::string_view line) {
         return;
     }
     const auto celsius = ParseNumber(temperatureField);
-    // a number of °C can be too large for one of °F
-    if (!celsius || !std::isfinite(options_.Unit.ToDisplayTemperature(*celsius))) {
+    if (!celsius) {
         Report({LineProblem::kInvalidTemperature, lineNumber_, line, temperatureField, {}});
         return;
     }

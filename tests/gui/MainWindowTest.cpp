@@ -248,7 +248,7 @@ TEST_F(MainWindow, RecentFilesListNewestFirstAndCanBeCleared) {
     EXPECT_EQ(Data.CurrentDataFile, "/data/other.csv");
     menu->actions().constLast()->trigger();
     EXPECT_FALSE(menu->isEnabled());
-    EXPECT_EQ(OwnStore.Values["RecentFile1"], "");
+    EXPECT_EQ(OwnStore.Values["RecentFiles"], "");
 }
 
 TEST_F(MainWindow, AFileDroppedOnTheWindowIsOpened) {

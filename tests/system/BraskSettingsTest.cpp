@@ -67,7 +67,7 @@ TEST_F(BraskSettings, RefusalsAndFailuresSayWhy) {
     const auto failed =
         Json({"settings", "set", "GraphType", "1", "--settings", "/dev/null/x.ini"}, 1);
     ASSERT_EQ(MessagesOf(failed).size(), 1U);
-    EXPECT_EQ(MessagesOf(failed)[0].rfind("The setting GraphType could not be saved: ", 0), 0U);
+    EXPECT_EQ(MessagesOf(failed)[0].rfind("The setting GraphType could not be saved to ", 0), 0U);
 }
 
 TEST_F(BraskSettings, ADamagedFileIsSetAsideAndReported) {

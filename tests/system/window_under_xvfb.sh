@@ -61,4 +61,4 @@ status=0
 wait "$window" || status=$?
 [ "$status" -eq 0 ] || fail "the window ended with status $status"
 [ -d "$work/data/VEK/From TalvexK42" ] || fail "the data directories were not made"
-grep -q '^RecentFile1=.*'"$name" "$work/settings.ini" || fail "the file is not among the recent ones"
+grep -q '^RecentFiles=.*'"$name" "$work/settings.ini" || fail "the file is not among the recent ones"

@@ -91,7 +91,7 @@ TEST_F(SettingsTest, KnownKeysAndADefaultThatFollowsAnotherKey) {
     EXPECT_EQ(Options.Get("EndViewDayOn"), "Saturday");
     Known.Values["StartWeekOn"] = "1";
     EXPECT_EQ(Options.Get("EndViewDayOn"), "Sunday");
-    for (const char* key : {"PlotLineColor1", "PlotLineColor12", "ScalePrint", "RecentFile10"}) {
+    for (const char* key : {"PlotLineColor1", "PlotLineColor12", "ScalePrint", "RecentFiles"}) {
         EXPECT_TRUE(Settings::IsKnown(key)) << key;
     }
     for (const char* key : {"", "PlotLineColor", "PlotLineColor0", "PlotLineColor01",

@@ -11,11 +11,17 @@ namespace {
 const std::string kPath = "/home/settings/VEK/Brask Lite.ini";
 
 struct TwoSections {
+    std::string Damage;
+    std::string Kept;
     IniSettingsFile File;
     IniSettingsStore Known{File, "Brask Lite"};
     IniSettingsStore Own{File, "Window"};
 
-    explicit TwoSections(Files& disk) : File(disk, kPath) {}
+    explicit TwoSections(Files& disk)
+        : File(disk, kPath, [this](const std::string& reason, const std::string& kept) {
+              Damage = reason;
+              Kept = kept;
+          }) {}
 };
 
 TEST(IniSettingsStore, TwoRunningProgramsKeepEachOthersKeys) {
@@ -38,7 +44,7 @@ TEST(IniSettingsStore, DamagedFileIsSetAsideAndReported) {
         MemoryFiles disk;
         disk.Contents[kPath] = content;
         TwoSections store(disk);
-        EXPECT_EQ(store.File.Damage(), damage);
+        EXPECT_EQ(store.Damage, damage);
         EXPECT_EQ(disk.Contents[kPath + ".bad"], content);
         EXPECT_FALSE(disk.Contents.contains(kPath));
         EXPECT_EQ(store.Known.Get("GraphType", "0"), "0");
@@ -48,12 +54,27 @@ TEST(IniSettingsStore, DamagedFileIsSetAsideAndReported) {
     }
 }
 
+TEST(IniSettingsStore, DamageWhileTheProgramRunsCostsNoSettingAndNoEarlierFile) {
+    MemoryFiles disk;
+    disk.Contents[kPath] = "[Brask Lite]\nA=1\n";
+    disk.Contents[kPath + ".bad"] = "kept before";
+    TwoSections store(disk);
+    disk.Contents[kPath] = "damage";
+    ASSERT_TRUE(store.Known.Save("B", "2").Ok());
+    EXPECT_EQ(store.Damage, "line 1 is no Key=Value line");
+    EXPECT_EQ(store.Kept, kPath + ".bad2");
+    EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nA=1\nB=2\n");
+    EXPECT_EQ(disk.Contents[kPath + ".bad"], "kept before");
+    EXPECT_EQ(disk.Contents[kPath + ".bad2"], "damage");
+}
+
 TEST(IniSettingsStore, UnreadableFileIsLeftAlone) {
     MemoryFiles disk;
     disk.Contents[kPath] = "[Brask Lite]\nA=1\n";
     disk.FailAt = 0;
     TwoSections store(disk);
-    EXPECT_EQ(store.File.Damage(), "Input/output error");
+    EXPECT_EQ(store.Damage, "Input/output error");
+    EXPECT_EQ(store.Kept, "");
     EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nA=1\n");
 }
 
@@ -88,7 +109,7 @@ TEST(IniSettingsStore, AValueThatWouldDamageTheFileIsRefused) {
     ASSERT_FALSE(saved.Ok());
     EXPECT_EQ(saved.Why().Number, EFBIG);
     EXPECT_EQ(disk.Contents[kPath], "[Brask Lite]\nA=1\n");
-    EXPECT_EQ(TwoSections(disk).File.Damage(), "");
+    EXPECT_EQ(TwoSections(disk).Damage, "");
 }
 
 }  // namespace
