@@ -59,6 +59,15 @@ inline constexpr auto kCancel = TextRow("app", "Cancel");
 inline constexpr auto kNoMoreMessages =
     TextRow("app", "Do not show further messages for this file");
 
+inline constexpr auto kUsageAbout = TextRow("app", "Shows the readings of a gas analyser.");
+inline constexpr auto kUsageFile = TextRow("app", "data file to open");
+inline constexpr auto kUsageSettings =
+    TextRow("app", "keep settings in this INI file instead of the user's own store");
+inline constexpr auto kUsageRoot = TextRow("app", "base directory of the data directories");
+inline constexpr auto kUsageOrder = TextRow("app", "override the date order: mdy, dmy or ymd");
+inline constexpr auto kUsageBadOrder = TextRow("app", "--date-order takes mdy, dmy or ymd");
+inline constexpr auto kUsageOneFile = TextRow("app", "one FILE at most");
+
 inline constexpr auto kStatusReadings = TextRow("app", "%1 readings");
 inline constexpr auto kStatusRejected = TextRow("app", "%1 readings, %2 lines rejected");
 

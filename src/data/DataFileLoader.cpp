@@ -97,6 +97,8 @@ void DataFileLoader::Read(const ReadOptions& options) {
         ShowText(texts_.Fill(kCannotRead, {path, opened.Why().Reason}));
         return;
     }
+    user_.SetProgressTotal(
+        static_cast<std::int64_t>(opened.Value()->Size() / FixedLineParser::kLineLength));
     const ReadSummary summary = DataFileReader(data_, options, *this).ReadDataFile(*opened.Value());
     rejectedLines_ = summary.RejectedLines;
     cancelled_ = summary.Cancelled || user_.Ended();

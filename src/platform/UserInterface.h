@@ -29,9 +29,10 @@ class UserInterface {
     // The error dialog with Retry and Cancel; true for Retry.
     virtual bool AskRetry(const Message& message) = 0;
 
-    // Progress of long work: begin, then counts as it goes, then end. Cancelled turns true once
-    // the user asked to stop, and false again with the next begin.
+    // Progress of long work: begin, the count to expect where it is known, counts as it goes, end.
+    // Cancelled turns true once the user asked to stop, and false again with the next begin.
     virtual void BeginProgress(ProgressMode mode) = 0;
+    virtual void SetProgressTotal(std::int64_t expected) = 0;
     virtual void SetProgressCount(std::int64_t count) = 0;
     virtual bool ProgressCancelled() const = 0;
     virtual void EndProgress() = 0;

@@ -21,7 +21,8 @@ using namespace brask;
 
 constexpr int kWrongUsage = 2;
 
-struct CommandLine {
+// What the words after the program's name say.
+struct WindowArguments {
     QString File;
     QString Settings;
     QString Root;
@@ -37,52 +38,49 @@ std::optional<LongDateOrder> DateOrderNamed(const QString& name) {
 
 // What the words say; a one-line reason when they are wrong. Ends the program for --help and
 // --version.
-Result<CommandLine> ParseCommandLine(const QStringList& words) {
+Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& texts) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Shows the readings of a gas analyser."));
+    parser.setApplicationDescription(ToQt(texts, app_texts::kUsageAbout));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("data file to open"),
+    parser.addPositionalArgument(QStringLiteral("FILE"), ToQt(texts, app_texts::kUsageFile),
                                  QStringLiteral("[FILE]"));
     const QCommandLineOption settings(
-        QStringLiteral("settings"),
-        QStringLiteral("keep settings in this INI file instead of the user's own store"),
-        QStringLiteral("FILE"));
-    const QCommandLineOption root(QStringLiteral("root"),
-                                  QStringLiteral("base directory of the data directories"),
+        QStringLiteral("settings"), ToQt(texts, app_texts::kUsageSettings), QStringLiteral("FILE"));
+    const QCommandLineOption root(QStringLiteral("root"), ToQt(texts, app_texts::kUsageRoot),
                                   QStringLiteral("DIR"));
     const QCommandLineOption order(QStringLiteral("date-order"),
-                                   QStringLiteral("override the date order: mdy, dmy or ymd"),
-                                   QStringLiteral("ORDER"));
+                                   ToQt(texts, app_texts::kUsageOrder), QStringLiteral("ORDER"));
     parser.addOptions({settings, root, order});
     if (!parser.parse(words)) return Error{0, FromQt(parser.errorText())};
     if (parser.isSet(help)) parser.showHelp();
     if (parser.isSet(version)) parser.showVersion();
     const auto named = DateOrderNamed(parser.value(order));
-    if (parser.isSet(order) && !named) return Error{0, "--date-order takes mdy, dmy or ymd"};
-    if (parser.positionalArguments().size() > 1) return Error{0, "one FILE at most"};
-    return CommandLine{parser.positionalArguments().value(0), parser.value(settings),
-                       parser.value(root), named};
+    if (parser.isSet(order) && !named) return Error{0, texts.Find(app_texts::kUsageBadOrder)};
+    if (parser.positionalArguments().size() > 1)
+        return Error{0, texts.Find(app_texts::kUsageOneFile)};
+    return WindowArguments{parser.positionalArguments().value(0), parser.value(settings),
+                           parser.value(root), named};
 }
 
 // Before there is an application for the windows: --help needs no display.
-Result<CommandLine> ParseCommandLine(int argc, char** argv) {
+Result<WindowArguments> ParseArguments(int argc, char** argv, const Texts& texts) {
     const QCoreApplication words(argc, argv);
     QCoreApplication::setApplicationVersion(ToQt(std::string(ProgramVersion())));
-    return ParseCommandLine(QCoreApplication::arguments());
+    return ParseArguments(QCoreApplication::arguments(), texts);
 }
 
 int RunWindow(int argc, char** argv) {
-    const auto parsed = ParseCommandLine(argc, argv);
+    const EnglishTexts texts;
+    const auto parsed = ParseArguments(argc, argv, texts);
     if (!parsed.Ok()) {
         std::fprintf(stderr, "brasklite: %s\n", parsed.Why().Reason.c_str());
         return kWrongUsage;
     }
-    const CommandLine& line = parsed.Value();
+    const WindowArguments& line = parsed.Value();
     const QApplication application(argc, argv);
 
     NativeSystem native;
-    const EnglishTexts texts;
     QtUserInterface user(texts, app_texts::kNoMoreMessages);
     QtChoosers choosers;
     const System system{user,         texts, native.Disk(), native.Locale(), native.Information(),

@@ -9,6 +9,17 @@ namespace {
 
 constexpr std::int64_t kProgressInterval = 200;  // milliseconds
 
+// "[######..............]  30 %  ", nothing while the end is unknown.
+std::string ProgressBar(std::int64_t count, std::int64_t expected) {
+    constexpr std::int64_t kWidth = 20;
+    if (expected <= 0) return "";
+    // an estimate may fall short; the work is not done before it says so
+    const std::int64_t percent = std::min<std::int64_t>(count * 100 / expected, 99);
+    const auto done = static_cast<std::size_t>(percent * kWidth / 100);
+    return "[" + std::string(done, '#') + std::string(kWidth - done, '.') + "] " +
+           std::to_string(percent) + " %  ";
+}
+
 }  // namespace
 
 ConsoleUserInterface::ConsoleUserInterface(std::FILE* out, const Clock& clock,
@@ -36,13 +47,15 @@ bool ConsoleUserInterface::AskRetry(const Message& message) {
 }
 
 void ConsoleUserInterface::BeginProgress(ProgressMode) {
+    expected_ = 0;
     nextProgress_ = clock_.SteadyMilliseconds() + kProgressInterval;
 }
 
 void ConsoleUserInterface::SetProgressCount(std::int64_t count) {
     if (!options_.Progress || clock_.SteadyMilliseconds() < nextProgress_) return;
     nextProgress_ = clock_.SteadyMilliseconds() + kProgressInterval;
-    std::fprintf(out_, "\r%lld Results", static_cast<long long>(count));
+    const std::string bar = "\r" + ProgressBar(count, expected_) + std::to_string(count);
+    std::fputs(bar.c_str(), out_);
     std::fflush(out_);
     progressShown_ = true;
 }

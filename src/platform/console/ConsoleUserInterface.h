@@ -29,6 +29,7 @@ class ConsoleUserInterface final : public UserInterface {
     bool AskYesNo(const Message& question) override;
     bool AskRetry(const Message& message) override;
     void BeginProgress(ProgressMode mode) override;
+    void SetProgressTotal(std::int64_t expected) override { expected_ = expected; }
     void SetProgressCount(std::int64_t count) override;
     bool ProgressCancelled() const override { return false; }
     void EndProgress() override;
@@ -48,6 +49,7 @@ class ConsoleUserInterface final : public UserInterface {
     ConsoleOptions options_;
     std::vector<std::string> messages_;
     std::int64_t nextProgress_ = 0;  // steady milliseconds
+    std::int64_t expected_ = 0;      // 0 while unknown
     bool progressShown_ = false;
     bool ended_ = false;
 };

@@ -44,6 +44,8 @@ class QtUserInterface final : public UserInterface {
     bool AskYesNo(const Message& question) override;
     bool AskRetry(const Message& message) override;
     void BeginProgress(ProgressMode mode) override;
+    // The progress window shows counts alone.
+    void SetProgressTotal(std::int64_t) override {}
     void SetProgressCount(std::int64_t count) override;
     bool ProgressCancelled() const override;
     void EndProgress() override;

@@ -37,6 +37,7 @@ class ScriptedUserInterface final : public UserInterface {
     bool AskYesNo(const Message& question) override { return Answer(question); }
     bool AskRetry(const Message& message) override { return Answer(message); }
     void BeginProgress(ProgressMode mode) override { Begun.push_back(mode); }
+    void SetProgressTotal(std::int64_t) override {}
     void SetProgressCount(std::int64_t count) override { Progress.push_back(count); }
     bool ProgressCancelled() const override { return Cancelled; }
     void EndProgress() override {}

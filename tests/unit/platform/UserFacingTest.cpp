@@ -90,13 +90,14 @@ TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
 TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
     Console console(false, true);
     console.User->BeginProgress(ProgressMode::kReadingFile);
+    console.User->SetProgressTotal(1000);
     console.User->SetProgressCount(100);
     console.Time.Milliseconds = 250;
     console.User->SetProgressCount(200);
     console.User->SetProgressCount(300);
     console.User->ShowMessage({"", "bad line"});
     console.User->EndProgress();
-    EXPECT_EQ(console.Written(), "\r200 Results\r\033[Kbad line\n");
+    EXPECT_EQ(console.Written(), "\r[####................] 20 %  200\r\033[Kbad line\n");
 
     Console quiet(false, false);
     quiet.User->BeginProgress(ProgressMode::kReadingFile);
