@@ -46,22 +46,23 @@ TEST(PlotRequestTest, Periods) {
     using enum LongDateOrder;
     struct Case {
         GraphType Layout;
+        LongDateOrder Order;
         const char* From;
         const char* To;
         std::optional<AxisRange> Expected;
-        LongDateOrder Order = kMonthDayYear;
     };
-    const Case cases[] = {{kContinuous, "03-Jan-2004", "JAN-04-2004 12:00", {{37989, 37990.5}}},
-                          {kContinuous, "2/1/2004", "3/1/2004", {{37988, 37989}}, kDayMonthYear},
-                          {kContinuous, "1/1/2000", "12/12/9999", {{36526, 2958446}}},
-                          {kContinuous, "12/31/1999", "1/1/2004", {}},
-                          {kContinuous, "1/1/2004", "1/1/2004", {}},
-                          {kContinuous, "8:00", "9:00", {}},
-                          {kOverlapDays, "8:30", "6:00 PM", {{8.5, 18}}},
-                          {kOverlapDays, "8:30", "8:30", {}},
-                          {kOverlapDays, "1/1/2004", "1/2/2004", {}},
-                          {kOverlapWeeks, "8:00", "9:00", {}}};
-    for (const auto& [layout, from, to, expected, order] : cases) {
+    const Case cases[] = {
+        {kContinuous, kMonthDayYear, "03-Jan-2004", "JAN-04-2004 12:00", {{37989, 37990.5}}},
+        {kContinuous, kDayMonthYear, "2/1/2004", "3/1/2004", {{37988, 37989}}},
+        {kContinuous, kMonthDayYear, "1/1/2000", "12/12/9999", {{36526, 2958446}}},
+        {kContinuous, kMonthDayYear, "12/31/1999", "1/1/2004", {}},
+        {kContinuous, kMonthDayYear, "1/1/2004", "1/1/2004", {}},
+        {kContinuous, kMonthDayYear, "8:00", "9:00", {}},
+        {kOverlapDays, kMonthDayYear, "8:30", "6:00 PM", {{8.5, 18}}},
+        {kOverlapDays, kMonthDayYear, "8:30", "8:30", {}},
+        {kOverlapDays, kMonthDayYear, "1/1/2004", "1/2/2004", {}},
+        {kOverlapWeeks, kMonthDayYear, "8:00", "9:00", {}}};
+    for (const auto& [layout, order, from, to, expected] : cases) {
         const auto period = ReadPeriod({"a.png", 1, 1, from, to}, layout, order, EnglishTexts());
         EXPECT_EQ(period.Ok() ? period.Value() : std::nullopt, expected) << from << " to " << to;
     }
