@@ -26,6 +26,7 @@ std::string Document::StartCaption() const {
 
 void Document::Open(const std::string& path, DataSource source) {
     if (commands_.Busy()) return;
+    // from here on events run, and no command may disturb what is half done
     commands_.SetBusy(true);
     session_.Data.Source = source;
     session_.Data.CurrentDataFile = system_.Disk.Absolute(path);
@@ -38,6 +39,7 @@ void Document::Open(const std::string& path, DataSource source) {
     const LoadOutcome outcome = Load();
     commands_.SetBusy(false);
     commands_.SetHasReadings(session_.Data.ReadingCount > 0);
+    // the windows are closing: there is nobody left to show anything to
     if (system_.User.Ended()) return;
     if (outcome == LoadOutcome::kRead) {
         recent_.Add(session_.Data.CurrentDataFile);

@@ -24,6 +24,7 @@ DataPage::DataPage(const DataSet& readings, const TemperatureUnit& unit, const T
     MSFlexGrid1->setModel(model_);
     MSFlexGrid1->setSelectionBehavior(QAbstractItemView::SelectRows);
     MSFlexGrid1->verticalHeader()->hide();
+    // rows of one height: nothing is measured for ten million of them
     MSFlexGrid1->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     MSFlexGrid1->verticalHeader()->setDefaultSectionSize(MSFlexGrid1->fontMetrics().height() + 6);
     MSFlexGrid1->horizontalHeader()->setStretchLastSection(true);

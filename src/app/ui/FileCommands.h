@@ -31,8 +31,11 @@ class FileCommands {
     void OpenFile(const QString& path);
 
   private:
+    // Asks for a file, from the data directory on, and opens it.
     void mnuOpen_Click();
+    // Copies the file that is loaded; what is shown is never written anew.
     void mnuSaveDataFile_Click();
+    // Says what the file tells about itself.
     void mnuViewHeaders_Click();
 
     System system_;

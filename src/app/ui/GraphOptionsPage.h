@@ -24,7 +24,9 @@ class GraphOptionsPage final : public QScrollArea {
 
     // Sets every control from the stored options; sends no signal.
     void ShowOptions(const ProgramOptions& options);
+    // Lists the line colours with their numbers and samples.
     void ShowColors(const PlotColors& colors);
+    // Marks a layout that was chosen elsewhere.
     void ShowGraphType(int index) { ChooseOption(optGraph, index); }
     // The period boxes follow a continuous rebuild: the X range in date form.
     void ShowPeriod(const QString& start, const QString& end);
@@ -35,6 +37,7 @@ class GraphOptionsPage final : public QScrollArea {
     void TemperatureUnitChosen(bool fahrenheit);
 
   private:
+    // The three columns, left to right, and their larger frames.
     QWidget* BuildLayoutColumn(const UserLocale& locale);
     QGroupBox* BuildPeriodFrame(const UserLocale& locale);
     QWidget* BuildDrawingColumn();

@@ -36,9 +36,12 @@ class GraphPage final : public QStackedWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    // The two faces of the page.
     QWidget* BuildAdvice();
     QWidget* BuildPlot(const Chart& chart, const UserLocale& locale);
+    // A button that runs the toolbar command of that key, with its picture and tip.
     QPushButton* LargeButton(const char* name, const char* key);
+    // Again after every change of the palette: the icons take its colours.
     void DrawIcons();
 
     const Texts& texts_;

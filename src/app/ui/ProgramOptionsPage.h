@@ -27,7 +27,9 @@ class ProgramOptionsPage final : public QWidget {
 
     // Sets every control from the stored options.
     void ShowOptions(const ProgramOptions& options, const DirectoryOptions& directories);
+    // The start-up reads this option last, by itself.
     void ShowMaximized(bool maximized) { chkOpenFullSize->setChecked(maximized); }
+    // The links in force, as they are stored.
     void ShowAddresses(const QString& instrument, const QString& handheld);
 
   private:

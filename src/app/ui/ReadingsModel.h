@@ -24,6 +24,7 @@ class ReadingsModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    // Formatted anew at every repaint: a screen shows some dozens of ten million.
     QString CellText(std::size_t reading, int column) const;
 
     const DataSet& data_;

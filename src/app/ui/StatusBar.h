@@ -22,6 +22,7 @@ class StatusBar final : public QStatusBar, public NoticeView {
     void ShowNotice(const QString& text) override;
 
   private:
+    // To the minute; asked for once a second.
     void ShowTime();
 
     const Texts& texts_;

@@ -20,6 +20,7 @@ namespace {
 
 // The one local file that a drag carries; empty for anything else.
 QString DraggedFile(const QMimeData* data) {
+    // several files at once would each replace the one before
     const QList<QUrl> urls = data->urls();
     return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
 }
@@ -104,6 +105,7 @@ void frmBraskLite::FormLoad() {
     CheckSyncSoftware();
     Toolbar1->SyncToolbarButton("PocketPC");
     ShowRecentFiles();
+    // only now: before, a change would meet controls that are not made yet
     commands_.OnChange([this] { UpdateDataCommands(); });
     UpdateDataCommands();
     SSTab1_Click(kGraphTab);

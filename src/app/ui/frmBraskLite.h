@@ -53,10 +53,12 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
   private:
     enum Tab { kGraphTab, kDataTab, kGraphOptionsTab, kProgramOptionsTab };
 
+    // Makes the toolbar, the tabs with their pages, the status bar and the progress window.
     void BuildPages();
+    // The commands that concern the window itself; those about files come with FileCommands.
     void RegisterCommands();
     // Steps of the start-up.
-    void LoadOptions();
+    void LoadOptions();  // stored options into controls, under the loading guard
     void ShowDirectories(const ProgramOptions& options);
     void CheckSyncSoftware();
 
@@ -64,10 +66,15 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     void ShowChart() override;
     void ShowReadings() override;
 
+    // A tab was selected, or a click met a disabled one: without readings the grid's tab gives
+    // way to the one shown before.
     void SSTab1_Click(int tab);
+    // The one handler of the layout: keeps options, menu and settings equal, rebuilds the plot.
     void optGraph_Click(int index);
     void optTemperatureDisplay_Click(bool fahrenheit);
+    // Gives menus, buttons, tabs and option pages the state that the commands have now.
     void UpdateDataCommands();
+    // Lists the recent files in the menu and on the page without data.
     void ShowRecentFiles();
     void SyncRecentFiles();
     // Opens a file that was dropped or named in a list, once the events under way are done.
@@ -82,7 +89,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     WindowsKind windowsKind_ = WindowsKind::kNotClassified;
     std::string connectionText_;
     std::string helpFile_;
-    int previousTab_ = kGraphTab;
+    int previousTab_ = kGraphTab;  // where the grid's tab returns to without readings
     bool opensMaximized_ = false;
 
     std::unique_ptr<MenuBar> menus_;

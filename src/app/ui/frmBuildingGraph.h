@@ -27,7 +27,9 @@ class frmBuildingGraph final : public QDialog, public ProgressView {
     void reject() override { cmdCancel_Click(); }
 
   private:
+    // Only asks the work to stop; it sees that at its next turn for events.
     void cmdCancel_Click();
+    // Shows the count and sets it back, so that a standstill is seen as one.
     void Timer1Second_Timer();
 
     const Texts& texts_;

@@ -58,6 +58,7 @@ class QtUserInterface final : public UserInterface {
     bool Ended() const override { return ended_; }
 
   private:
+    // What a box belongs to: the modal window in front, so that it never opens behind it.
     QWidget* Parent() const;
 
     const Texts& texts_;
