@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "app/OptionTexts.h"
@@ -212,7 +211,31 @@ QGroupBox* GraphOptionsPage::BuildLineColors() {
     auto* layout = static_cast<QVBoxLayout*>(frame->layout());
     layout->addWidget(MSFlexGridColors, 1);
     layout->addLayout(buttons);
+    layout->addWidget(BuildClipboard());
     return frame;
+}
+
+// The one colour that the editor copies and inserts; nothing to do with the system's clipboard.
+QGroupBox* GraphOptionsPage::BuildClipboard() {
+    QGroupBox* const frame = controls_.Frame(kClipboard);
+    ShapeClipboard = new QLabel(frame);
+    ShapeClipboard->setObjectName(QStringLiteral("ShapeClipboard"));
+    ShapeClipboard->setFixedSize(48, 20);
+    ShapeClipboard->setFrameShape(QFrame::Box);
+    lblClipboard = new QLabel(frame);
+    lblClipboard->setObjectName(QStringLiteral("lblClipboard"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(ShapeClipboard);
+    row->addWidget(lblClipboard, 1);
+    static_cast<QVBoxLayout*>(frame->layout())->addLayout(row);
+    return frame;
+}
+
+void GraphOptionsPage::ShowClipboard(int number, ColorValue color) {
+    QPixmap swatch(ShapeClipboard->size());
+    swatch.fill(ToQtColor(color));
+    ShapeClipboard->setPixmap(swatch);
+    lblClipboard->setText(ToQt(texts_.Fill(kClipboardColor, {std::to_string(number)})));
 }
 
 void GraphOptionsPage::ShowOptions(const ProgramOptions& options) {
@@ -242,6 +265,7 @@ void GraphOptionsPage::ShowColors(const PlotColors& colors) {
         MSFlexGridColors->setItem(row, 1, new QTableWidgetItem(ToQt(ColorToRgbText(color))));
         MSFlexGridColors->setItem(row, 2, sample);
     }
+    ShowClipboard(1, colors.CurveColor(1));
 }
 
 void GraphOptionsPage::ShowPeriod(const QString& start, const QString& end) {

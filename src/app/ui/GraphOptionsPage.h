@@ -4,6 +4,7 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QTableWidget>
@@ -43,6 +44,9 @@ class GraphOptionsPage final : public QScrollArea {
     QWidget* BuildDrawingColumn();
     QGroupBox* BuildGraphColors();
     QGroupBox* BuildLineColors();
+    QGroupBox* BuildClipboard();
+    // Shows the colour in the editor's clipboard and the table's row that it came from.
+    void ShowClipboard(int number, ColorValue color);
 
     const Texts& texts_;
     QWidget* frameGraphOptions;
@@ -65,6 +69,8 @@ class GraphOptionsPage final : public QScrollArea {
     QCheckBox* chkScaleGraph = nullptr;
     QCheckBox* chkXYLabelColors = nullptr;
     QTableWidget* MSFlexGridColors = nullptr;
+    QLabel* ShapeClipboard = nullptr;
+    QLabel* lblClipboard = nullptr;
 };
 
 }  // namespace brask
