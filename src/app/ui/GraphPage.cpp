@@ -115,6 +115,8 @@ void GraphPage::ShowPlotFrame(bool hasReadings) {
 }
 
 void GraphPage::SyncEnabled() {
+    // the recent files too: a second load must not start
+    frameCommandEnabled->setEnabled(!commands_.Busy());
     for (QPushButton* button : std::as_const(largeButtons_)) {
         const auto* row = FindToolbarRow(FromQt(button->property(kKeyProperty).toString()));
         button->setEnabled(commands_.Enabled(row->Command));

@@ -37,13 +37,16 @@ QColor Mixed(const QColor& first, const QColor& second, double share) {
             mix(first.blue(), second.blue())};
 }
 
-QString AxisTitle(const std::string& text) {
-    return QString::fromStdString(text).replace("\r\n", "\n");
+// A header text may be a megabyte long, which would take minutes to set; no screen shows so much.
+constexpr qsizetype kLongestText = 400;
+
+QString Shown(const std::string& text) {
+    return QString::fromStdString(text).left(kLongestText).replace("\r\n", "\n");
 }
 
 void SetText(QCPTextElement& element, const std::string& text, const QFont& font,
              const QColor& color) {
-    element.setText(QString::fromStdString(text));
+    element.setText(Shown(text));
     element.setFont(font);
     element.setTextColor(color);
 }
@@ -134,14 +137,14 @@ void DynaPlot::ShowAxes() {
 void DynaPlot::ShowXAxis() {
     SetRange(*xAxis, chart_.X.Range(),
              chart_.Labels.DateFormat.empty() ? kNumberHalfWidth : kDateHalfWidth);
-    xAxis->setLabel(AxisTitle(chart_.X.Title));
+    xAxis->setLabel(Shown(chart_.X.Title));
     xAxis->setLabelColor(ToColor(chart_.X.Color));
     xAxis->setTickLabelColor(ToColor(chart_.X.Color));
 }
 
 void DynaPlot::ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale) {
     SetRange(axis, scale.Range(), kNumberHalfWidth);
-    axis.setLabel(AxisTitle(scale.Title));
+    axis.setLabel(Shown(scale.Title));
     axis.setLabelColor(ToColor(scale.Color));
     axis.setTickLabelColor(ToColor(scale.Color));
 }
