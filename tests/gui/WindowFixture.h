@@ -67,7 +67,6 @@ class WindowFixture : public testing::Test {
     DataSet Data;
     TemperatureUnit Unit;
     Chart Plot;
-    std::vector<std::string> SaveFailures;
 
   private:
     EnglishTexts texts_;
@@ -77,9 +76,7 @@ class WindowFixture : public testing::Test {
     DiagnosticLog log_{Disk, clock_};
 
   protected:
-    Settings Options{Store, OwnStore, locale_, [this](const std::string& key, const std::string&) {
-                         SaveFailures.push_back(key);
-                     }};
+    Settings Options{Store, OwnStore, locale_, [](const auto&, const auto&) {}};
 
   private:
     DataDirectories directories_{Disk, User, texts_};

@@ -8,16 +8,8 @@
 #include <set>
 
 namespace brask {
-namespace {
 
 namespace fs = std::filesystem;
-
-std::string Content(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-}  // namespace
 
 ProgramTest::ProgramTest() {
     std::string name = (fs::temp_directory_path() / "brask-system-XXXXXX").string();
@@ -43,8 +35,8 @@ Finished ProgramTest::Run(const std::vector<std::string>& arguments, const std::
     for (const std::string& word : arguments) command += " '" + word + "'";
     command += " </dev/null >'" + outPath + "' 2>'" + errorPath + "'";
     const int state = std::system(command.c_str());
-    Finished finished{WIFEXITED(state) ? WEXITSTATUS(state) : -1,
-                      out.empty() ? Content(outPath) : "", Content(errorPath)};
+    Finished finished{WIFEXITED(state) ? WEXITSTATUS(state) : -1, out.empty() ? Read(outPath) : "",
+                      Read(errorPath)};
     if (out.empty()) fs::remove(outPath);
     fs::remove(errorPath);
     return finished;
@@ -68,7 +60,10 @@ std::string ProgramTest::Write(const std::string& name, const std::string& bytes
     return At(name);
 }
 
-std::string ProgramTest::Read(const std::string& name) const { return Content(home_ / name); }
+std::string ProgramTest::Read(const std::string& name) const {
+    std::ifstream file(home_ / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 std::string ProgramTest::Listing() const {
     std::set<std::string> names;
@@ -78,12 +73,6 @@ std::string ProgramTest::Listing() const {
     std::string listing;
     for (const std::string& name : names) listing += (listing.empty() ? "" : " ") + name;
     return listing;
-}
-
-std::vector<std::string> With(std::vector<std::string> words,
-                              const std::vector<std::string>& more) {
-    words.insert(words.end(), more.begin(), more.end());
-    return words;
 }
 
 std::string DataLine(const std::string& time, const std::string& gas, const std::string& celsius) {

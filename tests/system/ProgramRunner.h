@@ -32,6 +32,7 @@ class ProgramTest : public testing::Test {
     std::string At(const std::string& name) const { return (home_ / name).string(); }
     // Writes a file there; its path.
     std::string Write(const std::string& name, const std::string& bytes) const;
+    // Of a file there, or anywhere when the path is absolute; empty when there is none.
     std::string Read(const std::string& name) const;
     // Everything below the home, sorted, joined by blanks.
     std::string Listing() const;
@@ -39,9 +40,6 @@ class ProgramTest : public testing::Test {
   private:
     std::filesystem::path home_;
 };
-
-// The words with more behind them.
-std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more);
 
 // A data line in the instrument's form.
 std::string DataLine(const std::string& time, const std::string& gas, const std::string& celsius);

@@ -5,7 +5,7 @@
 
 namespace brask {
 
-class FixedUserLocale final : public UserLocale {
+class FixedUserLocale : public UserLocale {
   public:
     explicit FixedUserLocale(LongDateOrder order = LongDateOrder::kMonthDayYear,
                              char decimalSign = '.')

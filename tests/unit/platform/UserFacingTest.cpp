@@ -22,25 +22,19 @@ TEST(Texts, PlacesAreFilledInOnePass) {
 }
 
 TEST(ProgramError, RetryCancelAndOkAlone) {
-    struct Case {
-        const char* Step;
-        bool Retry;
-        bool Answer;
-        std::string Text;
-    };
-    const Case cases[] = {{"", true, true, "[Load]\r\n(Cancel Ends Program)"},
-                          {"Step 2", true, false, "[Step 2]\r\n(Cancel Ends Program)"},
-                          {"Step 2", false, true, "[Step 2]"}};
-    for (const auto& [step, retry, answer, text] : cases) {
-        ScriptedUserInterface user;
-        user.Answers = {answer};
-        EXPECT_EQ(ShowProgramError(user, EnglishTexts(), {"Load", "No", step, retry}), answer);
-        EXPECT_EQ(user.Ended(), !answer);
-        ASSERT_EQ(user.Shown.size(), 1U);
-        EXPECT_EQ(user.Shown[0].Title, "Load Error");
-        EXPECT_EQ(user.Shown[0].Text, "Error Description:No\r\n" + text);
-        EXPECT_EQ(user.Answers.size(), retry ? 0U : 1U) << "without a choice nothing is asked";
-    }
+    ScriptedUserInterface user;
+    user.Answers = {true, false};
+    EXPECT_TRUE(ShowProgramError(user, EnglishTexts(), {"Load", "No", "Step 2", false}));
+    EXPECT_EQ(user.Answers.size(), 2U) << "without a choice nothing is asked";
+    EXPECT_TRUE(ShowProgramError(user, EnglishTexts(), {"Load", "No", "Step 2", true}));
+    EXPECT_FALSE(user.Ended());
+    EXPECT_FALSE(ShowProgramError(user, EnglishTexts(), {"Load", "No", "", true}));
+    EXPECT_TRUE(user.Ended());
+    const std::string description = "Error Description:No\r\n";
+    EXPECT_THAT(user.ShownTexts(),
+                testing::ElementsAre(description + "[Step 2]",
+                                     description + "[Step 2]\r\n(Cancel Ends Program)",
+                                     description + "[Load]\r\n(Cancel Ends Program)"));
 }
 
 // What a console user interface wrote to its terminal.
@@ -78,7 +72,6 @@ TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
     EXPECT_THAT(console.User->Messages(),
                 testing::ElementsAre("first\r\nsecond", "Sure?", "Again?", "one of many"));
     EXPECT_TRUE(Console(true).User->AskYesNo({"Title", "Sure?"}));
-    EXPECT_TRUE(Console(true).User->AskRetry({"Title", "Again?"}));
 }
 
 TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
@@ -98,13 +91,6 @@ TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {
     console.User->ShowMessage({"", "bad line"});
     console.User->EndProgress();
     EXPECT_EQ(console.Written(), "\r[####................] 20 %  200\r\033[Kbad line\n");
-
-    Console quiet(false, false);
-    quiet.User->BeginProgress(ProgressMode::kReadingFile);
-    quiet.Time.Milliseconds = 10000;
-    quiet.User->SetProgressCount(100);
-    quiet.User->EndProgress();
-    EXPECT_EQ(quiet.Written(), "");
 }
 
 }  // namespace

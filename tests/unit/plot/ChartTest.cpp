@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 #include "plot/Chart.h"
-#include "plot/PictureFormat.h"
 
 namespace brask {
 namespace {
@@ -28,44 +28,17 @@ TEST(Chart, OneEndOfAnAxisNeverPassesTheOther) {
 }
 
 TEST(Chart, NamesTellTemperatureCurvesAndPeriods) {
-    const struct {
-        const char* Name;
-        bool Temperature;
-        const char* Period;
-    } cases[] = {{"05-Mar-2004", false, "05-Mar-2004"},
-                 {"05-Mar-2004 Temp", true, "05-Mar-2004"},
-                 {"05-Mar-2004 tEMP ", true, "05-Mar-2004"},
-                 {"Gas", false, "Gas"},
-                 {"Temperature", true, ""},
-                 {" a tem Temp temp", true, "a tem"}};
-    for (const auto& one : cases) {
-        EXPECT_EQ(IsTemperatureCurve(one.Name), one.Temperature) << one.Name;
-        EXPECT_EQ(PeriodName(one.Name), one.Period) << one.Name;
+    const std::tuple<const char*, bool, const char*> cases[] = {
+        {"05-Mar-2004", false, "05-Mar-2004"},
+        {"05-Mar-2004 Temp", true, "05-Mar-2004"},
+        {"05-Mar-2004 tEMP ", true, "05-Mar-2004"},
+        {"Gas", false, "Gas"},
+        {"Temperature", true, ""},
+        {" a tem Temp temp", true, "a tem"}};
+    for (const auto& [name, temperature, period] : cases) {
+        EXPECT_EQ(IsTemperatureCurve(name), temperature) << name;
+        EXPECT_EQ(PeriodName(name), period) << name;
     }
-}
-
-TEST(Chart, ClearingLeavesBackgroundAndReadout) {
-    Chart chart;
-    chart.AddCurve({});
-    chart.X.SetRange(7, 9);
-    chart.Y1.Title = "Temperature";
-    chart.Labels.DateFormat = "%d";
-    chart.Title = TitleBlock();
-    chart.Background.PictureFile = "a.png";
-    chart.Readout = "readout";
-    chart.Clear();
-    EXPECT_TRUE(chart.Curves().empty());
-    EXPECT_EQ(chart.X.Range(), AxisRange());
-    EXPECT_EQ(chart.Y1.Title + chart.Labels.DateFormat, "");
-    EXPECT_FALSE(chart.Title);
-    EXPECT_EQ(chart.Background.PictureFile + chart.Readout, "a.pngreadout");
-}
-
-TEST(PictureFormat, LooksForTheSuffixAnywhere) {
-    EXPECT_EQ(PictureFormatOf("a.PNG"), PictureFormat::kPng);
-    EXPECT_EQ(PictureFormatOf("a.png.bmp"), PictureFormat::kBmp);
-    EXPECT_EQ(PictureFormatOf("/my.Bmp/plot.png"), PictureFormat::kBmp);
-    EXPECT_FALSE(PictureFormatOf("png"));
 }
 
 }  // namespace
