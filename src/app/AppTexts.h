@@ -44,7 +44,7 @@ inline constexpr auto kColumnTime = TextRow("app", "DATE / TIME");
 inline constexpr auto kColumnGas = TextRow("app", "GAS (ppm)");
 inline constexpr auto kColumnTemperature = TextRow("app", "Temp (%1)");
 inline constexpr auto kColumnMarkers = TextRow("app", "Marker Info");
-inline constexpr auto kGridCount = TextRow("app", "%1 readings");
+inline constexpr auto kGridCount = TextRow("app", "Readings: %1");
 inline constexpr auto kFirst = TextRow("app", "&First");
 inline constexpr auto kPrevious = TextRow("app", "Pre&vious");
 inline constexpr auto kNext = TextRow("app", "&Next");
@@ -68,7 +68,7 @@ inline constexpr auto kUsageOrder = TextRow("app", "override the date order: mdy
 inline constexpr auto kUsageBadOrder = TextRow("app", "--date-order takes mdy, dmy or ymd");
 inline constexpr auto kUsageOneFile = TextRow("app", "one FILE at most");
 
-inline constexpr auto kStatusReadings = TextRow("app", "%1 readings");
-inline constexpr auto kStatusRejected = TextRow("app", "%1 readings, %2 lines rejected");
+inline constexpr auto kStatusReadings = TextRow("app", "Readings: %1");
+inline constexpr auto kStatusRejected = TextRow("app", "Readings: %1, rejected lines: %2");
 
 }  // namespace brask::app_texts

@@ -54,7 +54,7 @@ TEST_F(MainWindow, ShowsAFileAndReturnsToNoDataAfterOneWithoutReadings) {
     EXPECT_EQ(Plot.Curves().size(), 2U);
     EXPECT_TRUE(Item("mnuFileViewData")->isEnabled());
     EXPECT_TRUE(Find<TabControl>("SSTab1")->isTabEnabled(1));
-    EXPECT_EQ(Find<QLabel>("lblStatusCounts")->text(), QStringLiteral("3 readings"));
+    EXPECT_EQ(Find<QLabel>("lblStatusCounts")->text(), QStringLiteral("Readings: 3"));
     EXPECT_THAT(User.Shown, IsEmpty());
 
     Open("/data/bad.csv");
@@ -66,7 +66,7 @@ TEST_F(MainWindow, ShowsAFileAndReturnsToNoDataAfterOneWithoutReadings) {
     EXPECT_TRUE(Find<QWidget>("frameCommandEnabled")->isVisible());
     EXPECT_FALSE(Item("mnuFileViewData")->isEnabled());
     EXPECT_EQ(Find<QLabel>("lblStatusCounts")->text(),
-              QStringLiteral("0 readings, 2 lines rejected"));
+              QStringLiteral("Readings: 0, rejected lines: 2"));
 }
 
 TEST_F(MainWindow, CommandsThatWouldDisturbALoadAreDisabledWhileItRuns) {
