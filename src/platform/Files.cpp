@@ -35,7 +35,7 @@ Status CopyAndCommit(InputFile& source, ReplacementFile& target, std::size_t blo
         const auto read = source.Read(block);
         if (!read.Ok()) return read.Why();
         if (read.Value() == 0) return target.Commit();
-        const Status written = target.Write({block.data(), read.Value()});
+        Status written = target.Write({block.data(), read.Value()});
         if (!written.Ok()) return written;
     }
 }

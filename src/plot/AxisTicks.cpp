@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::int64_t kDay = 86400;
 constexpr auto kSecondSteps = std::to_array<std::int64_t>(
-    {1,    2,    5,    10,    15,       30,        60,   120,      300,      600,      900,
-     1800, 3600, 7200, 10800, 6 * 3600, 12 * 3600, kDay, 2 * kDay, 7 * kDay, 14 * kDay});
+    {1,    2,    5,    10,    15,    30,    60,   120,      300,      600,      900,
+     1800, 3600, 7200, 10800, 21600, 43200, kDay, 2 * kDay, 7 * kDay, 14 * kDay});
 constexpr auto kMonthSteps = std::to_array<std::int64_t>(
     {1, 2, 3, 6, 12, 24, 60, 120, 240, 600, 1200, 2400, 6000, 12000, 60000, 120000});
 

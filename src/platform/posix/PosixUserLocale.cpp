@@ -1,27 +1,47 @@
 #include "platform/posix/PosixUserLocale.h"
 
 #include <langinfo.h>
-#include <locale.h>
 
+#include <clocale>
 #include <ctime>
+#include <string_view>
 
 namespace brask {
+namespace {
+
+// The parts of a date that one conversion letter of strftime writes.
+std::string_view PartsOf(char letter) {
+    switch (letter) {
+        case 'D':
+            return "mdy";
+        case 'F':
+            return "ymd";
+        case 'd':
+        case 'e':
+            return "d";
+        case 'm':
+        case 'b':
+        case 'B':
+        case 'h':
+            return "m";
+        case 'y':
+        case 'Y':
+            return "y";
+        default:
+            return "";
+    }
+}
+
+}  // namespace
 
 LongDateOrder DateOrderOfFormat(const std::string& format) {
+    // flags and the E and O modifiers stand between the sign and the letter
+    constexpr const char* kBetween = "-_0EO";
     std::string order;
-    for (std::size_t i = 0; i + 1 < format.size(); ++i) {
-        if (format[i] != '%') continue;
-        char code = format[++i];
-        // flags and the E and O modifiers stand in front of the letter
-        while ((code == '-' || code == '_' || code == '0' || code == 'E' || code == 'O') &&
-               i + 1 < format.size()) {
-            code = format[++i];
-        }
-        if (code == 'D') order += "mdy";
-        if (code == 'F') order += "ymd";
-        if (code == 'd' || code == 'e') order += 'd';
-        if (code == 'm' || code == 'b' || code == 'B' || code == 'h') order += 'm';
-        if (code == 'y' || code == 'Y') order += 'y';
+    for (auto sign = format.find('%'); sign != std::string::npos; sign = format.find('%', sign)) {
+        sign = format.find_first_not_of(kBetween, sign + 1);
+        if (sign == std::string::npos) break;
+        order += PartsOf(format[sign++]);
     }
     if (order == "dmy") return LongDateOrder::kDayMonthYear;
     if (order == "ymd") return LongDateOrder::kYearMonthDay;
