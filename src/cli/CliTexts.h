@@ -24,9 +24,11 @@ inline constexpr auto kBadSettingsUse =
     TextRow("cli", "say \"settings list\", \"settings get KEY\" or \"settings set KEY VALUE\"");
 inline constexpr auto kNotAPicture =
     TextRow("cli", "the name %1 says neither .bmp nor .png, so no picture format is known");
+// %2 is the longest side, %3 the most pixels in all.
 inline constexpr auto kNotASize =
     TextRow("cli", "option --size: %1 is no WIDTHxHEIGHT from 1x1 to %2x%2 of at most %3 pixels");
 inline constexpr auto kHalfAPeriod = TextRow("cli", "--from and --to belong together");
+// %3 says what is wanted: one of the next two.
 inline constexpr auto kNotATime = TextRow("cli", "option %1: %2 is no %3");
 inline constexpr auto kDateWanted = TextRow("cli", "date from 1/1/2000 to 12/12/9999");
 inline constexpr auto kTimeOfDayWanted = TextRow("cli", "time of day (h:mm)");

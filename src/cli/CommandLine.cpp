@@ -12,6 +12,8 @@ namespace {
 using namespace cli_texts;
 using enum OptionKind;
 
+// Every command takes all of these, also those that have no use for one: a script can then set them
+// once for all its calls.
 constexpr auto kCommon = std::to_array<OptionRow>({
     {"settings", kText, "FILE",
      TextRow("cli", "keep settings in this INI file instead of the user's own store")},
@@ -37,6 +39,7 @@ const OptionRow* FindOption(std::span<const OptionRow> rows, std::string_view na
 // A word that begins with a dash and is neither "-" alone nor a negative number.
 bool LooksLikeOption(std::string_view word) {
     if (word.size() < 2 || word[0] != '-') return false;
+    // "-5" and "-.5" are values; no option begins with a digit
     return word[1] != '.' && (word[1] < '0' || word[1] > '9');
 }
 
@@ -48,6 +51,8 @@ std::optional<std::int64_t> CountOf(std::string_view text) {
     return whole && text[0] != '-' ? std::optional(count) : std::nullopt;
 }
 
+// Whole words only: a script must not come to depend on abbreviations that a later word makes
+// ambiguous.
 std::optional<int> ChoiceOf(std::string_view choices, std::string_view word) {
     for (int index = 0;; ++index) {
         const auto end = choices.find('|');
@@ -67,7 +72,8 @@ std::string OptionText(std::string_view name) {
     return (name.size() == 1 ? "-" : "--") + std::string(name);
 }
 
-// Takes the words one after another; the first that does not fit ends it.
+// Takes the words one after another; the first that does not fit ends it. A class of its own, so
+// that the finished CommandLine has nothing of the reading in it.
 class CommandLineReader {
   public:
     CommandLineReader(std::span<const CommandRow> commands, std::span<const std::string> words,
@@ -78,6 +84,7 @@ class CommandLineReader {
         bool optionsEnded = false;
         while (next_ < words_.size()) {
             const std::string& word = words_[next_++];
+            // Behind it a file whose name begins with a dash can be named.
             if (!optionsEnded && word == "--") {
                 optionsEnded = true;
                 continue;
@@ -87,6 +94,7 @@ class CommandLineReader {
                 return taken.Why();
             }
         }
+        // Before the arguments are counted: who asks for help need not know them.
         if (line_.Has("help") || line_.Has("version")) return std::move(line_);
         if (Status complete = CheckArguments(); !complete.Ok()) return complete.Why();
         return std::move(line_);
@@ -98,6 +106,7 @@ class CommandLineReader {
     }
 
     Status TakeWord(const std::string& word) {
+        // The first word that is no option is the command, whatever options stand in front.
         if (line_.command_ != nullptr) {
             line_.arguments_.push_back(word);
             return {};
@@ -111,6 +120,8 @@ class CommandLineReader {
     }
 
     const OptionRow* RowOf(std::string_view name) const {
+        // Only common options may stand in front of the command: which others it has is not known
+        // before.
         if (const OptionRow* row = FindOption(kCommon, name)) return row;
         return line_.command_ == nullptr ? nullptr : FindOption(line_.command_->Options, name);
     }
@@ -120,7 +131,10 @@ class CommandLineReader {
         const auto equals = isLong ? word.find('=') : std::string_view::npos;
         const std::string name(isLong ? word.substr(2, equals - 2) : word.substr(1, 1));
         const OptionRow* row = RowOf(name);
+        // "--o" and a long name behind a single dash are refused, rather than taken for something
+        // close.
         if (row == nullptr || isLong != (name.size() > 1)) {
+            // without its value, which is not what is wrong
             const std::string shown(word.substr(0, equals));
             if (line_.command_ == nullptr) return Wrong(kUnknownOption, {shown});
             return Wrong(kOptionNotOfCommand, {line_.command_->Name, shown});
@@ -134,6 +148,7 @@ class CommandLineReader {
     Status TakeSwitch(const OptionRow& row, std::optional<std::string_view> value) {
         const std::string_view name = row.Name;
         if (value) return Wrong(kOptionTakesNoValue, {OptionText(name)});
+        // Two switches of one choice: the last one given wins, as with two equal options.
         if (name == "fahrenheit" || name == "celsius") line_.fahrenheit_ = name == "fahrenheit";
         line_.options_.insert_or_assign(row.Name, CommandLine::GivenOption{&row, ""});
         return {};
@@ -142,8 +157,12 @@ class CommandLineReader {
     Status TakeValue(const OptionRow& row, std::optional<std::string_view> value) {
         const std::string option = OptionText(row.Name);
         if (!value && next_ == words_.size()) return Wrong(kOptionNeedsValue, {option, row.Value});
+        // The next word is the value whatever it looks like, so that "-o -x" can name a file.
         const std::string given(value ? *value : words_[next_++]);
+        // An empty value is nearly always a script's unset variable; going on would use the user's
+        // own store or write to an odd place.
         if (row.Kind == kText && given.empty()) return Wrong(kEmptyValue, {option});
+        // Checked while reading, so that a command only meets values that make sense.
         if (row.Kind == kCount && !CountOf(given)) {
             return Wrong(kNotACount, {option, Quoted(given)});
         }

@@ -20,7 +20,8 @@ namespace brask {
 class CommandLine;
 struct Shell;
 
-// What the process ends with.
+// What the process ends with. Failed also means refused, or nothing to show; scripts rely on the
+// numbers.
 enum class ExitStatus { kDone = 0, kFailed = 1, kUsage = 2 };
 
 // A switch has no value; a count is a whole number from 0 on; a choice is one of the words that
@@ -34,13 +35,18 @@ struct OptionRow {
     TextRow Meaning;
 };
 
+// One command of a program. Rows are constants: help is printed from the same table that the words
+// are checked against, so that the two cannot differ.
 struct CommandRow {
     const char* Name;
+    // For example "FILE -o PICTURE".
     const char* Arguments;  // as help shows them, required options included
     TextRow Summary;
     std::span<const OptionRow> Options;  // besides the common ones
+    // words behind the command's name that are no options
     std::size_t LeastArguments;
     std::size_t MostArguments;
+    // Called with a line that was checked against this row; required options it checks itself.
     ExitStatus (*Run)(Shell& shell, const CommandLine& line);
 };
 
@@ -50,6 +56,7 @@ std::span<const OptionRow> CommonOptions();
 // "--json", "-o".
 std::string OptionText(std::string_view name);
 
+// Points into the tables that it was read with, which must outlive it.
 class CommandLine {
   public:
     // Reads what stands behind the program's name; the error is a one-line reason. Without any
@@ -57,10 +64,13 @@ class CommandLine {
     static Result<CommandLine> Parse(std::span<const CommandRow> commands,
                                      std::span<const std::string> words, const Texts& texts);
 
-    // Null when there is none.
+    // Null when there is none. Never null in a command's own Run.
     const CommandRow* Command() const { return command_; }
+    // As typed, without the command's name.
     const std::vector<std::string>& Arguments() const { return arguments_; }
 
+    // Names are without dashes, here and below. A name that the command has no row for is simply
+    // absent.
     bool Has(std::string_view name) const { return options_.find(name) != options_.end(); }
     // The value as typed.
     std::optional<std::string> Value(std::string_view name) const;
@@ -74,6 +84,7 @@ class CommandLine {
   private:
     friend class CommandLineReader;
 
+    // The row is kept, since a choice is read against its list of words.
     struct GivenOption {
         const OptionRow* Row;
         std::string Value;

@@ -21,12 +21,18 @@ class CommandSession {
     // the log.
     CommandSession(Shell& shell, const CommandLine& line);
 
-    // Loads a data file; true when it was read to its end and holds readings.
+    // Loads a data file; true when it was read to its end and holds readings. A relative path
+    // counts from the working directory. The user interface has said why when it is false; what was
+    // read until then is in Data().
     bool Load(const std::string& file);
 
+    // Empty before the first Load.
     const DataSet& Data() const { return data_; }
+    // Of the last Load.
     std::int64_t RejectedLines() const { return loader_.RejectedLines(); }
+    // The option's unit, else the stored one.
     const TemperatureUnit& Unit() const { return unit_; }
+    // The option's order, else the locale's.
     LongDateOrder DateOrder() const { return dateOrder_; }
     Settings& Options() { return settings_.Options(); }
     // Whether every setting could be stored so far.

@@ -36,6 +36,7 @@ void WriteCurve(JsonWriter& json, const Curve& curve) {
     json.Member("axis", AxisName(curve));
     json.Member("color", ColorToRgbText(curve.Color));
     json.Member("line", LineName(curve));
+    // the chart's own number: 0, 2 or 8
     json.IntegerMember("style", static_cast<int>(curve.Style));
     json.Member("x", curve.X);
     json.Member("y", curve.Y);
@@ -45,6 +46,7 @@ void WriteCurve(JsonWriter& json, const Curve& curve) {
 void WriteDocument(Shell& shell, const Chart& chart) {
     JsonWriter json(shell.Out);
     json.BeginObject();
+    // An empty plot has no title.
     if (chart.Title) {
         json.Member("title", chart.Title->Title);
         json.IntegerMember("title_size", chart.Title->FontSize);
@@ -54,6 +56,7 @@ void WriteDocument(Shell& shell, const Chart& chart) {
         json.NullMember("title_size");
         json.NullMember("caption");
     }
+    // The ranges are the chart's true ones, also where a drawing has to widen one.
     WriteRange(json, "x", chart.X.Range());
     WriteRange(json, "y", chart.Y.Range());
     WriteRange(json, "y1", chart.Y1.Range());
@@ -71,9 +74,12 @@ std::string NumbersText(const AxisRange& range) {
 void WriteLines(OutputBuffer& out, const Chart& chart) {
     const auto line = [&out](std::string_view label, const std::string& value) {
         std::string text = PrintableText(value);
+        // a title may have line ends of its own; here one line holds one thing
         std::replace(text.begin(), text.end(), '\n', ' ');
         out.Write(std::string(label) + text + "\n");
     };
+    // Only an axis of dates holds serials; in overlapping layouts X counts from the start of the
+    // day or week.
     const bool dates = !chart.Labels.DateFormat.empty();
     const AxisRange& x = chart.X.Range();
     line("Title:    ",
@@ -95,6 +101,7 @@ void WriteLines(OutputBuffer& out, const Chart& chart) {
 
 ExitStatus RunCurves(Shell& shell, const CommandLine& line) {
     CommandSession session(shell, line);
+    // The plot is built in any case: a document shows the empty one, too.
     const bool read = session.Load(line.Arguments()[0]);
     PlotOptions options = ReadPlotOptions(session.Options(), session.Unit());
     OverrideLayout(line, options);

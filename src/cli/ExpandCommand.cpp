@@ -20,6 +20,7 @@ std::span<const OptionRow> ExpandOptions() { return kOptions; }
 
 ExitStatus RunExpand(Shell& shell, const CommandLine& line) {
     const auto out = line.Value("o");
+    // Before anything is read, so that a mistyped call has no effect.
     if (!out) return WrongUsage(OptionMissing(shell, *line.Command(), "o"));
     const std::string& raw = line.Arguments()[0];
     const auto lines = ReceivedFileExpander(shell.System.Disk()).ExpandReceivedFile(raw, *out);

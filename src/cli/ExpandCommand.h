@@ -10,6 +10,8 @@ namespace brask {
 // -o.
 std::span<const OptionRow> ExpandOptions();
 
+// Fails, with a message, when the stream cannot be read or the data file not written; a stream
+// without one whole line is done and makes an empty file.
 ExitStatus RunExpand(Shell& shell, const CommandLine& line);
 
 }  // namespace brask

@@ -23,6 +23,7 @@ std::string OptionUse(const OptionRow& row) {
 }
 
 std::string OptionLines(std::span<const OptionRow> rows, const Texts& texts) {
+    // wide enough for all but the longest, which pushes its own line aside
     constexpr std::size_t kWidth = 26;
     std::string lines;
     for (const OptionRow& row : rows) {
@@ -64,6 +65,7 @@ void Print(Shell& shell, const CommandLine& line, std::string_view key, const st
 }  // namespace
 
 ExitStatus RunHelp(Shell& shell, const CommandLine& line) {
+    // "brask list --help" speaks of list; in "brask help list" the command is help itself.
     const CommandRow* subject = line.Command();
     if (!line.Has("help")) subject = nullptr;
     if (!line.Arguments().empty() && subject == nullptr) {
@@ -84,6 +86,7 @@ ExitStatus RunHelp(Shell& shell, const CommandLine& line) {
 ExitStatus RunVersion(Shell& shell, const CommandLine& line) {
     const std::string version(ProgramVersion());
     Print(shell, line, "version",
+          // the bare number saves a script from cutting the line
           line.Has("json") ? version : shell.Words.Fill(kVersionLine, {version}) + "\n");
     return ExitStatus::kDone;
 }

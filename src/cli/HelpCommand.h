@@ -9,6 +9,7 @@ struct Shell;
 
 // All commands, or the one named as argument or in front of --help.
 ExitStatus RunHelp(Shell& shell, const CommandLine& line);
+// One line, "brask 1.0.0", or the bare number in a document.
 ExitStatus RunVersion(Shell& shell, const CommandLine& line);
 
 }  // namespace brask

@@ -19,6 +19,7 @@ struct Extremes {
 };
 
 std::optional<Extremes> ExtremesOf(std::span<const double> values) {
+    // no readings have no extremes: null in a document
     if (values.empty()) return std::nullopt;
     const auto [least, greatest] = std::minmax_element(values.begin(), values.end());
     return Extremes{*least, *greatest};
@@ -39,7 +40,9 @@ void WriteDocument(Shell& shell, const CommandSession& session, const std::strin
     const DataSet& data = session.Data();
     JsonWriter json(shell.Out);
     json.BeginObject();
+    // As typed, so that a script finds its own name again.
     json.Member("file", file);
+    // Header texts are bytes of the file; a document has to be UTF-8.
     json.Member("instrument", Windows1252ToUtf8(data.InstrumentName));
     json.Member("serial_number", Windows1252ToUtf8(data.InstrumentSerialNumber));
     json.Member("date", Windows1252ToUtf8(data.InstrumentDate));
@@ -60,6 +63,7 @@ void WriteDocument(Shell& shell, const CommandSession& session, const std::strin
 }
 
 std::string RangeText(std::span<const double> values, const std::string& unit) {
+    // never empty here: lines are printed only after a load with readings
     const auto extremes = ExtremesOf(values).value_or(Extremes());
     return FormatNumber(extremes.Minimum) + " to " + FormatNumber(extremes.Maximum) + " " + unit;
 }
@@ -70,6 +74,7 @@ void WriteLines(OutputBuffer& out, const CommandSession& session, const std::str
         constexpr std::size_t kLabelWidth = 16;
         out.Write(label);
         out.Write(std::string(kLabelWidth - label.size(), ' '));
+        // a header may hold anything, control characters of the terminal included
         std::string text = PrintableText(value);
         std::replace(text.begin(), text.end(), '\n', ' ');
         out.Write(text + "\n");
@@ -93,6 +98,7 @@ ExitStatus RunInfo(Shell& shell, const CommandLine& line) {
     CommandSession session(shell, line);
     const std::string& file = line.Arguments()[0];
     const bool read = session.Load(file);
+    // A failed load has its document, too, with nulls; without --json the message says it all.
     if (line.Has("json")) {
         WriteDocument(shell, session, file);
     } else if (read) {

@@ -14,6 +14,7 @@ std::string_view Escaped(std::string_view character, std::span<char, 8> buffer) 
     if (character.size() == 1 && (code == '"' || code == '\\')) {
         return code == '"' ? "\\\"" : "\\\\";
     }
+    // U+007F and all above may stand as they are.
     if (code >= 0x20) return character;
     if (code == '\n') return "\\n";
     if (code == '\r') return "\\r";
@@ -57,6 +58,7 @@ void JsonWriter::Value(std::string_view text) {
 
 void JsonWriter::Key(std::string_view key) {
     String(key);
+    // no comma between a key and its value
     out_.Write(":");
     afterValue_ = false;
 }
@@ -65,6 +67,7 @@ void JsonWriter::String(std::string_view text) {
     Separate();
     out_.Write("\"");
     for (;;) {
+        // Runs of plain characters go out in one piece: a long list is made of little else.
         const std::size_t plain = PlainLength(text);
         out_.Write(text.substr(0, plain));
         text.remove_prefix(plain);
@@ -79,6 +82,7 @@ void JsonWriter::String(std::string_view text) {
 }
 
 void JsonWriter::Number(double value) {
+    // JSON has no number for them; a temperature can overflow in °F.
     if (!std::isfinite(value)) {
         Null();
         return;

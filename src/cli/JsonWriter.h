@@ -19,13 +19,16 @@ class JsonWriter {
     void EndObject() { End("}"); }
     void BeginArray() { Begin("["); }
     void EndArray() { End("]"); }
+    // The next call must write its value.
     void Key(std::string_view key);
 
-    // UTF-8; bytes that are none become U+FFFD.
+    // UTF-8; bytes that are none become U+FFFD. Control characters are escaped; nothing else is
+    // changed.
     void String(std::string_view text);
     // Reads back as exactly this number; null for infinities and NaN.
     void Number(double value);
     void Integer(std::int64_t value);
+    // For what has no value: a failed command's document keeps all its keys.
     void Null() { Value("null"); }
 
     // A key with its value.

@@ -27,6 +27,7 @@ struct Stretch {
 
 Stretch StretchOf(const CommandLine& line, std::size_t readings) {
     const auto begin = static_cast<std::size_t>(line.Count("start").value_or(0));
+    // first, so that the subtraction below cannot wrap round
     if (begin >= readings) return {};
     const std::size_t left = readings - begin;
     const auto count = line.Count("count");
@@ -41,6 +42,8 @@ class StampWriter {
     std::string_view Stamp(double serial) {
         const auto seconds = std::llround(serial * kSecondsPerDay);
         constexpr std::int64_t kDay = 86400;
+        // Before 30 December 1899 the division would round the other way; such stamps are too rare
+        // to matter.
         if (serial < 0 || seconds / kDay != day_) {
             stamp_ = FormatReadingTime(serial);
             day_ = serial < 0 ? -1 : seconds / kDay;
@@ -66,21 +69,25 @@ class StampWriter {
 };
 
 void WriteCsv(OutputBuffer& out, const CommandSession& session, Stretch stretch, bool exact) {
+    // The heads are those of the grid; scripts know the columns by them.
     out.Write("Result,DATE / TIME,GAS (ppm),Temp (" + session.Unit().Label() + "),Marker Info\n");
     const DataSet& data = session.Data();
     StampWriter stamps;
     for (std::size_t i = stretch.Begin; i < stretch.End; ++i) {
+        // readings are numbered from 1, as in the grid; only --start counts from 0
         out.WriteInteger(static_cast<std::int64_t>(i) + 1);
         out.Write(",");
         out.Write(stamps.Stamp(data.ReadingTime[i]));
         for (const double value : {data.GasPpm[i], data.Temperature[i]}) {
             out.Write(",");
+            // The grid shows tenths; --exact is for going on with the numbers.
             if (exact) {
                 out.WriteNumber(value);
             } else {
                 out.Write(FormatTenths(value));
             }
         }
+        // the last column is that of the markers
         out.Write(",\n");
     }
 }
@@ -95,9 +102,11 @@ void WriteDocument(Shell& shell, const DataSet& data, Stretch stretch) {
         json.BeginObject();
         json.IntegerMember("result", static_cast<std::int64_t>(i) + 1);
         json.Member("time", stamps.Stamp(data.ReadingTime[i]));
+        // beside the stamp, which has whole seconds only
         json.Member("serial", data.ReadingTime[i]);
         json.Member("gas", data.GasPpm[i]);
         json.Member("temperature", data.Temperature[i]);
+        // always there, so that a script need not ask for it
         json.Member("markers", std::span<const std::string>());
         json.EndObject();
     }
@@ -115,6 +124,7 @@ ExitStatus RunList(Shell& shell, const CommandLine& line) {
     bool shown = session.Load(file);
     const auto readings = static_cast<std::int64_t>(session.Data().ReadingCount);
     const std::int64_t start = line.Count("start").value_or(0);
+    // An index beyond the end is a mistake worth a message; a count that reaches beyond is not.
     if (shown && start >= readings) {
         ShowFailure(shell, shell.Words.Fill(cli_texts::kNoSuchReading, {std::to_string(start), file,
                                                                         std::to_string(readings)}));

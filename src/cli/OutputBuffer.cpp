@@ -9,6 +9,7 @@ namespace brask {
 namespace {
 
 Error LastWriteError() {
+    // kept at once: putting the text together may change errno
     const int number = errno;
     return {number, std::generic_category().message(number)};
 }
@@ -22,7 +23,9 @@ void OutputBuffer::WriteNumber(double value) { Write(FormatNumber(value)); }
 void OutputBuffer::WriteInteger(std::int64_t value) { Write(std::to_string(value)); }
 
 void OutputBuffer::Flush() {
+    // from the first piece on, another document would stand behind half of this one
     begun_ = begun_ || !pending_.empty();
+    // Nothing is tried again after a failure: half a document with a gap would be worse than half.
     if (outcome_.Ok() && std::fwrite(pending_.data(), 1, pending_.size(), out_) < pending_.size()) {
         outcome_ = LastWriteError();
     }

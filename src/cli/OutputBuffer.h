@@ -16,6 +16,7 @@ class OutputBuffer {
     // Writes to `out`, which must outlive this object.
     explicit OutputBuffer(std::FILE* out);
 
+    // Never fails by itself: Finish tells.
     void Write(std::string_view text) {
         pending_ += text;
         if (pending_.size() >= kPieceSize) Flush();
@@ -23,12 +24,14 @@ class OutputBuffer {
     // The shortest text that reads back as this number.
     void WriteNumber(double value);
     void WriteInteger(std::int64_t value);
-    // Drops what is pending; false when something was written already.
+    // Drops what is pending; false when something was written already. For a command that breaks
+    // off and has to print another document instead.
     bool Discard() {
         pending_.clear();
         return !begun_;
     }
-    // Writes what is pending; whether everything arrived.
+    // Writes what is pending; whether everything arrived. To be called once, at the end; a full
+    // disk or a closed pipe shows here.
     Status Finish();
 
   private:

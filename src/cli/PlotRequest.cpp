@@ -29,6 +29,7 @@ constexpr auto kOptions = std::to_array<OptionRow>({
      TextRow("cli", "begin the X axis here: a date, in the days layout a time of day")},
     {"to", OptionKind::kText, "TIME", TextRow("cli", "end the X axis here")},
 });
+// the first rows of the table, which `curves` shares
 constexpr std::size_t kLayoutOptions = 3;
 
 std::string Quoted(std::string_view word) { return "\"" + std::string(word) + "\""; }
@@ -45,6 +46,7 @@ bool ReadSize(std::string_view text, PlotRequest& request) {
     if (cross == std::string_view::npos) return false;
     const auto width = SideOf(text.substr(0, cross));
     const auto height = SideOf(text.substr(cross + 1));
+    // by division: the product of two sides may not fit an int
     if (!width || !height || *height > kMostPixels / *width) return false;
     request.Width = *width;
     request.Height = *height;
@@ -70,6 +72,7 @@ std::span<const OptionRow> CurvesOptions() { return std::span(kOptions).first(kL
 std::span<const OptionRow> DrawingOptions() { return kOptions; }
 
 void OverrideLayout(const CommandLine& line, PlotOptions& options) {
+    // the words stand in the order of the enumeration
     if (const auto layout = line.Choice("layout")) options.Layout = static_cast<GraphType>(*layout);
     if (const auto start = line.Choice("start-week")) options.StartWeekOn = *start;
     if (line.Has("no-data-points")) options.MarkDataPoints = false;
@@ -83,6 +86,7 @@ Result<PlotRequest> ReadPlotRequest(const CommandLine& line, const Texts& texts)
         return Error{0, texts.Fill(kOptionMissing, {"-o", command.Name, command.Arguments})};
     }
     request.Picture = *picture;
+    // refused before any work: a format must not be guessed after a long drawing
     if (!PictureFormatOf(*picture)) return Error{0, texts.Fill(kNotAPicture, {Quoted(*picture)})};
     if (const auto size = line.Value("size"); size && !ReadSize(*size, request)) {
         return Error{0, texts.Fill(kNotASize, {Quoted(*size), std::to_string(kLongestSide),
@@ -90,6 +94,8 @@ Result<PlotRequest> ReadPlotRequest(const CommandLine& line, const Texts& texts)
     }
     request.From = line.Value("from");
     request.To = line.Value("to");
+    // One end alone would leave the other to the data, so that a series of pictures would not
+    // compare.
     if (request.From.has_value() != request.To.has_value()) {
         return Error{0, texts.Find(kHalfAPeriod)};
     }
@@ -98,6 +104,7 @@ Result<PlotRequest> ReadPlotRequest(const CommandLine& line, const Texts& texts)
 
 Result<std::optional<AxisRange>> ReadPeriod(const PlotRequest& request, GraphType layout,
                                             LongDateOrder order, const Texts& texts) {
+    // No period: the axis spans all readings.
     if (!request.From) return std::optional<AxisRange>();
     if (layout == GraphType::kOverlapWeeks) return Error{0, texts.Find(kNoPeriodInWeeks)};
     const TextRow wanted = layout == GraphType::kOverlapDays ? kTimeOfDayWanted : kDateWanted;
@@ -108,6 +115,7 @@ Result<std::optional<AxisRange>> ReadPeriod(const PlotRequest& request, GraphTyp
                                                Quoted(from ? *request.To : *request.From),
                                                texts.Find(wanted)})};
     }
+    // equal ends, too: an axis of no width shows nothing
     if (*from >= *to) return Error{0, texts.Find(kPeriodNotInOrder)};
     return std::optional(AxisRange{*from, *to});
 }

@@ -23,9 +23,11 @@ std::span<const OptionRow> DrawingOptions();
 void OverrideLayout(const CommandLine& line, PlotOptions& options);
 
 struct PlotRequest {
+    // as typed; its ending, .bmp or .png, says the format
     std::string Picture;  // the file to write
     int Width = 1600;     // pixels
     int Height = 900;
+    // As typed: what they mean depends on the layout, which may be a stored one.
     std::optional<std::string> From;  // both or neither
     std::optional<std::string> To;
 };

@@ -15,9 +15,11 @@ namespace brask {
 namespace {
 
 using ShownSetting = std::array<std::string, 5>;
+// in the order of ShownSetting; also the keys of the document
 constexpr std::array<const char*, 5> kColumns = {"key", "value", "default", "form", "meaning"};
 
 ShownSetting Show(const Settings& settings, const Texts& texts, const std::string& key) {
+    // what a colour entry has, which stands in neither table
     SettingForm form = SettingForm::kColour;
     TextRow meaning = cli_texts::kPlotLineColor;
     for (const auto rows : {KnownSettings(), OwnSettings()}) {
@@ -55,8 +57,10 @@ void WriteTable(OutputBuffer& out, const std::vector<ShownSetting>& settings) {
         }
     }
     for (const ShownSetting& setting : settings) {
+        // the last column needs no blanks behind it
         for (std::size_t i = 0; i + 1 < setting.size(); ++i) {
             std::string text = PrintableText(setting[i]);
+            // the recent files are several lines in one value
             std::replace(text.begin(), text.end(), '\n', ' ');
             const std::size_t used = CharacterCount(text);
             out.Write(text + std::string(used < widths[i] ? widths[i] - used + 2 : 2, ' '));
@@ -91,11 +95,14 @@ ExitStatus RunSettings(Shell& shell, const CommandLine& line) {
 
     std::vector<std::string> keys{request->Key};
     if (request->What == kList) keys = settings.Keys();
+    // Keys that the program does not know are kept in the file but not written: a slip in a key
+    // would otherwise look like a success.
     const bool known = request->What == kList || Settings::IsKnown(request->Key);
     if (!known) {
         ShowFailure(shell, shell.Words.Fill(cli_texts::kUnknownSetting, {request->Key}));
         keys.clear();
     } else if (request->What == kSet) {
+        // Stored as typed, also what is no value of its form: reading copes with anything.
         settings.Save(request->Key, request->Value);
     }
 
@@ -105,6 +112,7 @@ ExitStatus RunSettings(Shell& shell, const CommandLine& line) {
     if (line.Has("json")) {
         WriteDocument(shell, shown);
     } else if (known && request->What == kGet) {
+        // bare, for a script to take as it is
         shell.Out.Write(settings.Get(request->Key) + "\n");
     } else if (known && request->What == kList) {
         WriteTable(shell.Out, shown);

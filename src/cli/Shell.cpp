@@ -17,6 +17,7 @@ void WriteErrorLine(const std::string& line) {
 }
 
 ExitStatus RunCommand(Shell& shell, const CommandLine& line) {
+    // wherever they stand: such a call asks about the program, not for work
     if (line.Has("version")) return RunVersion(shell, line);
     if (line.Has("help")) return RunHelp(shell, line);
     return line.Command()->Run(shell, line);
@@ -27,6 +28,7 @@ ExitStatus RunWithinMemory(Shell& shell, const CommandLine& line) {
     try {
         return RunCommand(shell, line);
     } catch (const std::bad_alloc&) {
+        // What the command held is free again by now.
         ShowFailure(shell, shell.Words.Find(cli_texts::kNoMemory));
         if (line.Has("json") && shell.Out.Discard()) {
             JsonWriter json(shell.Out);
@@ -44,14 +46,19 @@ ExitStatus RunWords(std::span<const CommandRow> commands, std::span<const std::s
     ConsoleOptions options;
     if (line.Ok()) {
         options.Yes = line.Value().Has("yes");
+        // In a log file or a pipe the bar would leave thousands of carriage returns.
         options.Progress =
             !line.Value().Has("quiet") && system.OtherPrograms().ErrorOutputIsTerminal();
     }
+    // Messages go to standard error, results alone to standard output, so that results can be piped
+    // on.
     ConsoleUserInterface user(stderr, system.Time(), options);
     OutputBuffer out(stdout);
     Shell shell{system, texts, user, out, commands, words};
+    // before any output: wrong usage has one line and no document
     if (!line.Ok()) return WrongUsage(line.Why().Reason);
     const ExitStatus status = RunWithinMemory(shell, line.Value());
+    // A result that did not arrive whole is a failure, whatever the command says.
     if (const Status written = out.Finish(); !written.Ok()) {
         WriteErrorLine(texts.Fill(cli_texts::kCannotWriteResult, {written.Why().Reason}));
         return ExitStatus::kFailed;
@@ -90,6 +97,7 @@ int RunProgram(std::span<const CommandRow> commands, std::span<char* const> argu
         for (std::size_t i = 1; i < arguments.size(); ++i) words.emplace_back(arguments[i]);
         return static_cast<int>(RunWords(commands, words));
     } catch (const std::bad_alloc&) {
+        // the row itself, since looking a text up takes memory
         std::fprintf(stderr, "%s\n", cli_texts::kNoMemory.English);
         return static_cast<int>(ExitStatus::kFailed);
     }

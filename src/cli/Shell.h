@@ -14,6 +14,7 @@
 
 namespace brask {
 
+// References to what RunProgram owns; a command keeps none of them.
 struct Shell {
     NativeSystem& System;
     const Texts& Words;
@@ -23,13 +24,15 @@ struct Shell {
     std::span<const std::string> Arguments;  // all, as they were given
 };
 
-// Says in one line on standard error what is wrong with the command line; always kUsage.
+// Says in one line on standard error what is wrong with the command line; always kUsage. For
+// `return WrongUsage(...)`. Nothing goes to standard output, with --json neither.
 ExitStatus WrongUsage(std::string_view reason);
 
 // The reason for WrongUsage when a command lacks an option that it cannot do without.
 std::string OptionMissing(const Shell& shell, const CommandRow& command, std::string_view option);
 
-// Shows a failure or refusal as a message.
+// Shows a failure or refusal as a message. Goes to standard error and into the "messages" of a
+// document.
 void ShowFailure(Shell& shell, const std::string& text);
 
 // Ends a document that is open for its last key: adds "messages", all that were shown.

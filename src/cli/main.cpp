@@ -15,6 +15,8 @@ namespace {
 
 using brask::TextRow;
 
+// In the order of help. The window's work is reached through the same core objects, so that a
+// script and a user get the same results.
 const auto kCommands = std::to_array<brask::CommandRow>({
     {"info", "FILE", TextRow("cli", "describe a data file"), {}, 1, 1, brask::RunInfo},
     {"list", "FILE", TextRow("cli", "print readings as CSV"), brask::ListOptions(), 1, 1,

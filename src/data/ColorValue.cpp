@@ -19,11 +19,13 @@ std::optional<std::uint32_t> HexNumber(std::string_view text) {
     text.remove_prefix(2);
     std::uint32_t number = 0;
     const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number, 16);
+    // No leading part counts: "&HFFzz" is a slip of the hand, and half a colour would hide it.
     if (error != std::errc() || stop != text.data() + text.size()) return std::nullopt;
     return number;
 }
 
 std::string LastTwo(std::string_view field) {
+    // "1-2-3" is a colour, too: short fields are filled from the left, long ones keep their end.
     const std::string padded = "00" + std::string(field);
     return padded.substr(padded.size() - 2);
 }
@@ -56,6 +58,8 @@ std::string SixDigits(ColorValue color) {
 }  // namespace
 
 ColorValue ParseColor(std::string_view text) {
+    // The prefix may stand anywhere for the text to count as hexadecimal, though only a text that
+    // begins with it can be read: all others become black, never a decimal number by chance.
     const bool hex =
         text.find("&h") != std::string_view::npos || text.find("&H") != std::string_view::npos;
     if (hex) return {HexNumber(text).value_or(0)};

@@ -13,6 +13,8 @@ std::string NativePath(std::string path, char separator) {
     return path;
 }
 
+// On a system without drives "c:\data" would become a folder of that odd name in whatever directory
+// the program happens to run in.
 bool NamesDrive(const std::string& path) {
     return path.size() >= 2 && path[1] == ':' &&
            ((path[0] | 0x20) >= 'a' && (path[0] | 0x20) <= 'z');
@@ -25,6 +27,7 @@ DataDirectories::DataDirectories(Files& files, UserInterface& user, const Texts&
 
 std::string DataDirectories::SystemBase(const Settings& settings, WindowsKind kind) const {
     if (!overriddenBase_.empty()) return overriddenBase_;
+    // Older systems have no documents folder of all users that everybody may write to.
     const bool shared = settings.IsYes("DataAccessIsGlobal") && kind == WindowsKind::kNt5;
     const std::string documents =
         files_.Folder(shared ? KnownFolder::kSharedDocuments : KnownFolder::kUserDocuments);
@@ -36,6 +39,7 @@ std::string DataDirectories::Base(const Settings& settings, WindowsKind kind) co
         return SystemBase(settings, kind);
     }
     std::string chosen = settings.Get("UserSpecDir");
+    // chosen but never named: the folder that such installations have always used
     if (chosen.empty()) chosen = "c:\\my documents";
     if (files_.Separator() == '/' && NamesDrive(chosen)) {
         std::string base = SystemBase(settings, kind);
@@ -48,6 +52,7 @@ std::string DataDirectories::Base(const Settings& settings, WindowsKind kind) co
 void DataDirectories::ResolveDataDirectories(const Settings& settings, WindowsKind kind) {
     const std::string separator(1, files_.Separator());
     std::string base = Base(settings, kind);
+    // the user may or may not have typed a separator at the end
     while (!base.empty() && base.back() == files_.Separator()) base.pop_back();
     dataRootDir_ = base + separator + "VEK" + separator;
     EnsureDirectory(dataRootDir_);

@@ -1,4 +1,6 @@
-// The fixed tree below one data root where received files go.
+// The fixed tree below one data root where received files go. Those of the handheld go to
+// ROOT/VEK/From PocketPC/, those of the instrument to ROOT/VEK/From TalvexK42/. The names are the
+// same in every installation, so that data is found again after an update.
 #pragma once
 
 #include <string>
@@ -15,11 +17,13 @@ class DataDirectories {
   public:
     DataDirectories(Files& files, UserInterface& user, const Texts& texts);
 
-    // Takes this base directory instead of the resolved one, until the program ends.
+    // Takes this base directory instead of the resolved one, until the program ends. For the option
+    // --root; an absolute path. Nothing is stored.
     void OverrideBase(std::string base) { overriddenBase_ = std::move(base); }
 
     // Computes the three paths from the settings and creates them. What cannot be created is
-    // reported with a message; the paths stand all the same.
+    // reported with a message; the paths stand all the same. Called at start-up; a later call puts
+    // changed settings in force.
     void ResolveDataDirectories(const Settings& settings, WindowsKind kind);
 
     // Creates a directory with all its parents; on failure shows "Cannot Create Directory".
@@ -30,7 +34,9 @@ class DataDirectories {
     const std::string& PocketPcDir() const { return pocketPcDir_; }
     const std::string& InstrumentDir() const { return instrumentDir_; }
 
-    // The directory that data lies under when the user chose none.
+    // The directory that data lies under when the user chose none. The shared documents where data
+    // is for all users and the system is recent enough to have them, else the user's own; a
+    // temporary directory where the system names none.
     std::string SystemBase(const Settings& settings, WindowsKind kind) const;
 
   private:

@@ -50,6 +50,7 @@ std::string BadLineText(const Texts& texts, const LineReport& report) {
 }  // namespace
 
 bool LiesInTempDirectory(const Files& files, const std::string& path) {
+    // separators on both sides: "/data/temperatures/" and a file called temp are none of these
     const std::string separator(1, files.Separator());
     return ContainsIgnoringCase(files.Absolute(path), separator + "temp" + separator);
 }
@@ -73,6 +74,7 @@ LoadOutcome DataFileLoader::LoadDataFile(const ReadOptions& options) {
         const ProgressScope progress(user_);
         Read(options);
     }
+    // After a cancel nothing is shown: the user knows why there is no data.
     if (cancelled_) {
         rejectedLines_ = 0;
         data_.Recreate(0);
@@ -87,16 +89,20 @@ void DataFileLoader::Read(const ReadOptions& options) {
     const std::string& path = data_.CurrentDataFile;
     if (LiesInTempDirectory(files_, path)) {
         data_.Recreate(0);
+        // The message is the same as for an empty file; only the log tells the reason.
         log_.WriteLog(texts_.Fill(kTempDirectory, {path}));
         return;
     }
     auto opened = files_.Open(path);
+    // The arrays are re-created also when the file cannot be opened: the old readings are gone by
+    // now.
     data_.Recreate(opened.Ok() ? ExpectedReadings(opened.Value()->Size()) : 0);
     if (!opened.Ok()) {
         readFailed_ = true;
         ShowText(texts_.Fill(kCannotRead, {path, opened.Why().Reason}));
         return;
     }
+    // An estimate, too: as if every line were a reading of the usual form.
     user_.SetProgressTotal(
         static_cast<std::int64_t>(opened.Value()->Size() / FixedLineParser::kLineLength));
     const ReadSummary summary = DataFileReader(data_, options, *this).ReadDataFile(*opened.Value());
@@ -107,6 +113,8 @@ void DataFileLoader::Read(const ReadOptions& options) {
         readFailed_ = true;
         ShowText(texts_.Fill(kCannotRead, {path, summary.Outcome.Why().Reason}));
     }
+    // A file that an editor of another system has saved looks right on the screen and yet holds no
+    // line; without the hint nobody would find out why nothing was read.
     if (data_.ReadingCount == 0 && summary.LoneLineFeeds) {
         user_.ShowNotice(texts_.Fill(kLoneLineFeeds, {BaseName(files_, path)}));
     }
@@ -118,6 +126,7 @@ void DataFileLoader::OnBadLine(const LineReport& report) {
             texts_.Fill(kLineTooLong, {data_.CurrentDataFile, std::to_string(report.LineNumber)}));
         return;
     }
+    // Counted all the same: RejectedLines tells of those that were not shown.
     if (!showBadLines_ || user_.Ended()) return;
     showBadLines_ =
         user_.ShowRepeatedMessage({texts_.Find(kProgramTitle), BadLineText(texts_, report)});

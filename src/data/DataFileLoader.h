@@ -20,6 +20,7 @@ enum class LoadOutcome {
     kCancelled,    // by the user or the end of the program; no reading is left, nothing was shown
 };
 
+// Works on objects that it does not own and that outlive it.
 class DataFileLoader final : private ReadObserver {
   public:
     DataFileLoader(DataSet& data, UserInterface& user, const Texts& texts, Files& files,
@@ -29,9 +30,11 @@ class DataFileLoader final : private ReadObserver {
     // have let go of them. Events run meanwhile; a second load must not start.
     LoadOutcome LoadDataFile(const ReadOptions& options);
 
-    // Lines of the last load that a message was due for, shown or switched off.
+    // Lines of the last load that a message was due for, shown or switched off. 0 after a cancelled
+    // load.
     std::int64_t RejectedLines() const { return rejectedLines_; }
     // Whether the last load could not read the file, or not to its end; a message has said so.
+    // Readings that came before a failure are kept, so kRead is possible then.
     bool ReadFailed() const { return readFailed_; }
 
   private:

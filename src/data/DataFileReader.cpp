@@ -29,6 +29,8 @@ std::string* HeaderField(DataSet& data, std::string_view key) {
 // The three fields of a data line; nothing for any other number of fields.
 std::optional<std::array<std::string_view, 3>> SplitFields(std::string_view line) {
     const auto first = line.find(',');
+    // Exactly two commas: a line of any other shape is no reading, and nothing needs to be said
+    // about it.
     const auto second = first == std::string_view::npos ? first : line.find(',', first + 1);
     if (second == std::string_view::npos) return std::nullopt;
     const std::string_view last = line.substr(second + 1);
@@ -42,6 +44,7 @@ DataFileReader::DataFileReader(DataSet& data, const ReadOptions& options, ReadOb
     : data_(data), options_(options), observer_(observer) {}
 
 ReadSummary DataFileReader::ReadDataFile(InputFile& file) {
+    // On the heap, and not cleared first: 256 KiB are too much for the stack of a small system.
     const auto buffer = std::make_unique_for_overwrite<char[]>(kBlockSize);
     while (!summary_.Cancelled) {
         const auto read = file.Read({buffer.get(), kBlockSize});
@@ -55,17 +58,22 @@ ReadSummary DataFileReader::ReadDataFile(InputFile& file) {
         // also where a file has no candidate line for megabytes
         if (AskObserver()) ReadBlock({buffer.get(), read.Value()});
     }
+    // The last line needs no line end.
     if (!pending_.empty() && !dropping_ && !summary_.Cancelled) EndLine({});
     summary_.LoneLineFeeds = lineFeedsMet_ && !lineEndsMet_;
     return summary_;
 }
 
 void DataFileReader::ReadBlock(std::string_view block) {
+    // A CR LF can be cut in two by the end of a block.
     if (afterCarriageReturn_ && block.front() == '\n') block.remove_prefix(1);
     afterCarriageReturn_ = false;
     while (!block.empty() && !summary_.Cancelled) {
+        // Tried again after every line of another form, so that a header or a bad line costs the
+        // fast path nothing but itself.
         if (pending_.empty() && !dropping_) block.remove_prefix(ReadFixedLines(block));
         const auto end = block.find('\r');
+        // a CR may still come in the next block
         if (end == std::string_view::npos) {
             KeepForNextBlock(block);
             return;
@@ -85,6 +93,8 @@ std::size_t DataFileReader::ReadFixedLines(std::string_view block) {
     std::size_t read = 0;
     for (;;) {
         read += ReadQuietLines(block.substr(read)) * FixedLineParser::kLineLength;
+        // The one line that the quiet loop stopped at: it is due for a turn of the events, a report
+        // or growth, or it is of another form.
         if (block.size() - read < FixedLineParser::kLineLength ||
             !fixed_.Parse(block.data() + read, reading) || !MayGoOn()) {
             return read;
@@ -100,6 +110,8 @@ std::size_t DataFileReader::ReadFixedLines(std::string_view block) {
 std::size_t DataFileReader::ReadQuietLines(std::string_view block) {
     const auto count = static_cast<std::size_t>(data_.ReadingCount);
     constexpr std::size_t kPerReport = kReadingsPerReport;
+    // Worked out beforehand, so that the loop itself has no check left but that of the line; this
+    // is what files of millions of readings spend their time in.
     const std::size_t most =
         std::min({block.size() / FixedLineParser::kLineLength, kPerReport - 1 - count % kPerReport,
                   std::size_t{(kLinesPerTurn - candidates_ % kLinesPerTurn) % kLinesPerTurn},
@@ -107,6 +119,7 @@ std::size_t DataFileReader::ReadQuietLines(std::string_view block) {
     double* const times = data_.ReadingTime.data() + count;
     double* const gas = data_.GasPpm.data() + count;
     double* const temperatures = data_.Temperature.data() + count;
+    // a copy, so that the loop need not fetch it through this object for every line
     const TemperatureUnit unit = options_.Unit;
     FixedReading reading{};
     std::size_t lines = 0;
@@ -130,8 +143,10 @@ void DataFileReader::KeepForNextBlock(std::string_view part) {
     }
     NoteLineFeeds(pending_);
     NoteLineFeeds(part);
+    // frees the megabyte; clear() would keep it for the rest of the file
     pending_ = std::string();
     dropping_ = true;
+    // Not through Report: such a line was never one of readings, so it is logged and not counted.
     observer_.OnBadLine({LineProblem::kTooLong, lineNumber_ + 1, {}, {}, {}});
 }
 
@@ -150,9 +165,11 @@ void DataFileReader::EndLine(std::string_view end) {
 void DataFileReader::ParseDataFileLine(std::string_view line) {
     NoteLineFeeds(line);
     const auto colon = line.find(':');
+    // Headers have a colon, and so has every time of day; a line without one is neither.
     if (colon == std::string_view::npos) return;
     std::string_view key =
         ContainsIgnoringCase(line, kInstrumentKey) ? kInstrumentKey : line.substr(0, colon + 1);
+    // Left over where a line ended in CR LF LF; only headers are lenient about it.
     while (key.size() >= 2 && key.front() == '\n') key.remove_prefix(1);
     if (std::string* field = HeaderField(data_, key)) {
         // users rely on it: the value starts after the line's first colon, also where
@@ -170,6 +187,7 @@ void DataFileReader::AcceptReadingLine(std::string_view line) {
     const auto& [timeField, gasField, temperatureField] = *fields;
 
     const std::string rewritten = ToLocaleDateText(timeField, options_.DateOrder);
+    // The order of the checks decides which message a line with several faults gets.
     const auto time = ParseDateTime(rewritten, options_.DateOrder);
     if (!time) {
         Report({LineProblem::kInvalidDate, lineNumber_, line, timeField, rewritten});

@@ -23,6 +23,7 @@ enum class LineProblem { kInvalidDate, kInvalidGas, kInvalidTemperature, kTooLon
 
 // A line that was not read. Texts are the file's bytes.
 struct LineReport {
+    // The views point into buffers of the reader: they are valid only during the call.
     LineProblem Problem;
     std::int64_t LineNumber;     // from 1
     std::string_view Line;       // empty for a line that is too long
@@ -35,7 +36,7 @@ class ReadObserver {
     virtual ~ReadObserver() = default;
 
     virtual void OnBadLine(const LineReport& report) = 0;
-    // At every 100th reading.
+    // At every 100th reading. The count includes it.
     virtual void OnReadings(std::int32_t count) = 0;
     // Asked before candidate lines, once per some hundred, and before each block of the file;
     // false ends the reading.
@@ -54,6 +55,7 @@ struct ReadSummary {
     std::int64_t RejectedLines = 0;  // lines that a message is due for
 };
 
+// One object reads one file.
 class DataFileReader {
   public:
     // A longer line is dropped to its end.
@@ -62,9 +64,12 @@ class DataFileReader {
     DataFileReader(DataSet& data, const ReadOptions& options, ReadObserver& observer);
 
     // Adds every reading of the file to the DataSet, in blocks of 256 KiB, whatever its length.
+    // Header fields are overwritten as their lines come; a failure or a cancel leaves what was read
+    // up to there.
     ReadSummary ReadDataFile(InputFile& file);
 
-    // Classifies one line, without its line end, as header, data or other, and stores it.
+    // Classifies one line, without its line end, as header, data or other, and stores it. What is
+    // stored goes to the DataSet, what is rejected to the observer and the summary.
     void ParseDataFileLine(std::string_view line);
 
   private:
@@ -91,6 +96,7 @@ class DataFileReader {
     bool lineEndsMet_ = false;
     bool afterCarriageReturn_ = false;  // at the end of the last block: a LF may follow
     std::int64_t lineNumber_ = 0;
+    // lines so far that could be readings; paces the turns of the events
     std::uint32_t candidates_ = 0;
 };
 

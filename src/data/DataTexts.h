@@ -8,11 +8,13 @@ namespace brask::data_texts {
 inline constexpr auto kProgramTitle = TextRow("data", "VEK Talvex© K42   Brask Lite");
 
 inline constexpr auto kNoDataWasRead = TextRow("data", "No data was read");
+// %1 is the date as it was rewritten, %2 as it stands in the file.
 inline constexpr auto kInvalidDate = TextRow("data", "Date of %1 [Input as %2] is invalid");
 inline constexpr auto kInvalidGas = TextRow("data", "Gas PPM %1 is invalid");
 inline constexpr auto kInvalidTemperature = TextRow("data", "Temperature of %1 is invalid");
 inline constexpr auto kOriginalLine = TextRow("data", "Original Line=%1");
 inline constexpr auto kIgnoringLine = TextRow("data", "Ignoring this line of data");
+// %1 is a path, %2 the system's reason.
 inline constexpr auto kCannotRead = TextRow("data", "Cannot read %1: %2");
 inline constexpr auto kCannotWrite = TextRow("data", "Cannot write %1: %2");
 inline constexpr auto kLineTooLong =
@@ -28,6 +30,7 @@ inline constexpr auto kCannotCreateDirectory = TextRow("data", "Cannot Create Di
 inline constexpr auto kDriveLetterElsewhere =
     TextRow("data", "The data directory %1 names a drive; %2 is used instead");
 inline constexpr auto kRenameFailureTitle = TextRow("data", "File Rename Failure");
+// %1 the source, %2 the destination, %3 the reason, %4 the directory to copy it to by hand.
 inline constexpr auto kRenameFailure =
     TextRow("data",
             "Could Not Rename File \r\n%1\r\n To \r\n%2\r\nError:\r\n%3\r\n"

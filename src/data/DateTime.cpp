@@ -11,6 +11,7 @@ namespace brask {
 namespace {
 
 constexpr std::int64_t kUnixEpoch = 25569;  // 1 January 1970 as a serial
+// Never the locale's names: stamps must read back in every country.
 constexpr std::array<std::string_view, 12> kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
@@ -40,7 +41,8 @@ class Scanner {
         while (Peek() == ' ') ++position_;
         return position_ > before;
     }
-    // A number of `least` to `most` digits.
+    // A number of `least` to `most` digits. Digits beyond `most` stay for what comes next, which
+    // then fails on them.
     std::optional<int> Number(std::size_t least, std::size_t most) {
         int number = 0;
         std::size_t digits = 0;
@@ -74,6 +76,7 @@ class Scanner {
 
 std::optional<CivilDate> NamedMonthDate(Scanner scan) {
     std::optional<int> month = scan.Month();
+    // The instrument writes JAN-01-2003, the program itself 01-Jan-2003; both must read everywhere.
     const bool monthFirst = month.has_value();
     if (monthFirst && !scan.Skip('-')) return std::nullopt;
     const auto day = scan.Number(1, 2);
@@ -146,6 +149,7 @@ CivilDateTime CivilFromSerial(double serial) {
     const double bounded = serial >= kFirst ? std::min(serial, kLast) : kFirst;
     auto seconds = static_cast<std::int64_t>(std::llround(bounded * kSecondsPerDay));
     const auto end = static_cast<std::int64_t>(kLast * kSecondsPerDay);
+    // A last half second would round up into the year 10000, which has no four-digit form.
     seconds = std::min(seconds, end - 1);
     constexpr std::int64_t kDay = 86400;
     const std::int64_t ofDay = ((seconds % kDay) + kDay) % kDay;
@@ -172,6 +176,7 @@ std::string MonthNumber(std::string_view text) {
 }
 
 std::string ToLocaleDateText(std::string_view text, LongDateOrder order) {
+    // Fields beyond the third are dropped with their slashes.
     const auto slash1 = text.find('/');
     const auto slash2 = slash1 == std::string_view::npos ? slash1 : text.find('/', slash1 + 1);
     if (order == LongDateOrder::kMonthDayYear || slash2 == std::string_view::npos) {
@@ -198,6 +203,7 @@ std::optional<double> ParseTimeOfDay(std::string_view text) {
     scan.SkipBlanks();
     const char half = scan.HalfDay();
     if (!scan.AtEnd()) return std::nullopt;
+    // With AM or PM the hours go from 12 over 1 to 11; 0 and 13 are none.
     if (half == '\0' ? *hour > 23 : *hour < 1 || *hour > 12) return std::nullopt;
     int hour24 = *hour;
     if (half == 'A') hour24 = *hour % 12;
@@ -210,6 +216,7 @@ std::optional<double> ParseDateTime(std::string_view text, LongDateOrder order) 
     const auto blank = text.find(' ');
     const std::string_view datePart = text.substr(0, blank);
     auto date = NamedMonthDate(Scanner(datePart));
+    // A month in words is never ambiguous, so it is tried first and in every country.
     if (!date) date = NumericDate(Scanner(datePart), order);
     if (!date || !IsCalendarDate(*date)) return std::nullopt;
     const auto days = static_cast<double>(DaysFromCivil(*date));

@@ -18,14 +18,16 @@ inline constexpr double kSecondsPerDay = 86400.0;
 inline constexpr double kEarliestDisplayDate = 36526.0;
 inline constexpr double kLatestDisplayDate = 2958446.0;
 
-// Days since 30 December 1899 of a calendar date (proleptic Gregorian calendar).
+// Days since 30 December 1899 of a calendar date (proleptic Gregorian calendar). Both directions
+// are exact for every existing date, also before that day (negative then).
 std::int64_t DaysFromCivil(const CivilDate& date);
 CivilDate CivilFromDays(std::int64_t days);
-// Whether the date exists, in the years 100 to 9999.
+// Whether the date exists, in the years 100 to 9999. 29 February counts only in leap years.
 bool IsCalendarDate(const CivilDate& date);
 // 1 for Sunday to 7 for Saturday.
 int DayOfWeek(std::int64_t days);
 
+// Exact to far below a second: a double holds today's serials to about a microsecond.
 double SerialFromCivil(const CivilDateTime& time);
 // To the nearest second; what lies outside the years 100 to 9999 becomes the nearer end.
 CivilDateTime CivilFromSerial(double serial);
@@ -33,7 +35,7 @@ CivilDateTime CivilFromSerial(double serial);
 // "dd-mmm-yyyy hh:mm:ss" with English month names: "01-Jan-2003 00:05:12".
 std::string FormatReadingTime(double serial);
 std::string FormatReadingTime(const CivilDateTime& time);
-// "dd-mmm-yyyy".
+// "dd-mmm-yyyy". The date part of the above: "01-Jan-2003".
 std::string FormatReadingDate(double serial);
 
 // "jan" .. "dec" in any letter case to "01" .. "12"; anything else to an empty string.
@@ -48,7 +50,8 @@ std::string ToLocaleDateText(std::string_view text, LongDateOrder order);
 // case) or numeric with "/" in the given order; four-digit years; h:mm or h:mm:ss, 24-hour or with
 // AM or PM. Blanks around are ignored. Nothing for any other text or a date that does not exist.
 std::optional<double> ParseDateTime(std::string_view text, LongDateOrder order);
-// Reads a time of day alone, in the forms above, as a fraction of a day.
+// Reads a time of day alone, in the forms above, as a fraction of a day. "13:30" is 0.5625. Nothing
+// for any other text.
 std::optional<double> ParseTimeOfDay(std::string_view text);
 
 }  // namespace brask

@@ -14,6 +14,7 @@ DiagnosticLog::DiagnosticLog(Files& files, const Clock& clock)
 void DiagnosticLog::WriteLog(std::string_view text) {
     // without a place for the log there is nobody left to tell
     if (!files_.MakeDirectoryChain(files_.Folder(KnownFolder::kLog)).Ok()) return;
+    // Cut before adding: the newest entry is always whole.
     CutToLastBytes();
     std::string line(text);
     // one entry a line, whatever a path brought along
@@ -34,6 +35,7 @@ void DiagnosticLog::CutToLastBytes() {
         if (!read.Ok()) return;
         if (read.Value() == 0) break;
         kept.append(block, 0, read.Value());
+        // so that a log of gigabytes, left by whatever, takes no more memory than its end
         if (kept.size() > kKeptBytes) kept.erase(0, kept.size() - kKeptBytes);
     }
     static_cast<void>(WriteWholeFile(files_, path_, kept).Ok());

@@ -17,7 +17,10 @@ class DiagnosticLog {
 
     DiagnosticLog(Files& files, const Clock& clock);
 
+    // The whole path, for telling users where to look.
     const std::string& Path() const { return path_; }
+    // Adds one entry with the local time. Never fails and never shows anything: an error in the log
+    // must not hide the one that it is about. Line ends within the text become blanks.
     void WriteLog(std::string_view text);
 
   private:

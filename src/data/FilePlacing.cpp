@@ -22,6 +22,7 @@ Status CopyAndRemove(Files& files, const std::string& source, const std::string&
     // the same file under two names: removing the source would remove the only copy
     if (files.SameFile(source, destination)) return {};
     Status copied = CopyWhole(files, source, destination);
+    // The copy is on disk before the only other one goes.
     return copied.Ok() ? files.Remove(source) : copied;
 }
 
@@ -38,7 +39,9 @@ std::string FilePlacing::ReasonOf(const Error& error) const {
 bool FilePlacing::PlaceReceivedFile(std::string source, std::string destination,
                                     const std::string& instrumentDirectory) {
     if (!destination.ends_with(".csv")) destination += ".csv";
+    // A name may come out of a fixed buffer, with anything behind its NUL.
     source.erase(std::min(source.find('\0'), source.size()));
+    // The rename comes first: it is one step, and it works in nearly all cases.
     if (files_.Move(source, destination).Ok()) return true;
     const Status moved = CopyAndRemove(files_, source, destination);
     if (moved.Ok()) return true;

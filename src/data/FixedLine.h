@@ -23,6 +23,7 @@ struct FixedReading {
     double Celsius;  // °C
 };
 
+// Keeps the date of the line before, so each file takes a parser of its own.
 class FixedLineParser {
   public:
     // Bytes of one line with its CR LF.
@@ -111,6 +112,8 @@ class FixedLineParser {
         return true;
     }
 
+    // Takes over the date of this line; false, keeping the one before, when it is none of this
+    // form.
     bool NewDate(const char* line) {
         const std::string_view text(line, sizeof dateText_);
         // three letters in front: a date of another form has its day where the month is looked for

@@ -32,6 +32,7 @@ std::int64_t ScanExponent(std::string_view text, std::size_t& position, std::str
     if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
     std::string digits;
     const std::size_t end = CopyDigits(text, at, digits);
+    // "5e" is the number 5 and a letter, so the whole is no number, but its leading number is 5.
     if (digits.empty()) return 0;
     position = end;
     copy += negative ? "e-" + digits : "e" + digits;
@@ -75,6 +76,7 @@ std::optional<double> ValueOf(const NumberForm& form) {
     double value = 0;
     const char* end = form.Text.data() + form.Text.size();
     const auto [stop, error] = std::from_chars(form.Text.data(), end, value);
+    // from_chars does not say on which side a number is out of range; the magnitude does.
     if (error == std::errc::result_out_of_range) {
         return form.Magnitude > 0 ? std::nullopt : std::optional<double>(0.0);
     }

@@ -9,9 +9,11 @@ namespace brask {
 
 // The number test: optional sign, digits with "." or the given decimal sign, optional exponent,
 // blanks around. Nothing for any other text (hexadecimal, inf, nan) and for what overflows.
+// For example "-1.5e3"; "1,5" only where "," is the decimal sign, while "." always is one.
 std::optional<double> ParseNumber(std::string_view text, char decimalSign = '.');
 
-// The number that a text begins with (blanks in front are ignored); 0 when it begins with none.
+// The number that a text begins with (blanks in front are ignored); 0 when it begins with none:
+// "12 ppm" is 12. For settings, where an odd value must still mean something.
 double LeadingNumber(std::string_view text);
 
 // The shortest text that reads back as exactly this number: "0.1", "1e+30".

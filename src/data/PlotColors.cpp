@@ -28,6 +28,7 @@ void PlotColors::RestoreDefaults(Settings& settings) {
     for (std::size_t i = 0; i < kDefaults.size(); ++i) {
         SaveEntry(settings, static_cast<int>(i) + 1, kDefaults[i]);
     }
+    // Last: the length must not promise entries that are not stored yet.
     settings.Save("NumPlotColorsDefined", std::to_string(kDefaults.size()));
 }
 

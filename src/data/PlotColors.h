@@ -35,6 +35,7 @@ class PlotColors {
 
     int Count() const { return static_cast<int>(colors_.size()); }
     // The colour of a curve of period `period`, from 1; colours repeat from the table's start.
+    // Needs a Load before.
     ColorValue CurveColor(int period) const;
 
   private:

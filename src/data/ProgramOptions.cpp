@@ -9,6 +9,7 @@
 namespace brask {
 
 std::optional<int> CursorStyleOf(double index) {
+    // Users see the buttons in this order; the chart numbers its cursors in its own.
     static constexpr std::array<int, 7> kStyles = {1, 9, 3, 4, 5, 10, 8};
     if (!(index >= 0 && index < kStyles.size()) || index != std::floor(index)) return std::nullopt;
     return kStyles[static_cast<std::size_t>(index)];
@@ -34,10 +35,12 @@ ProgramOptions LoadProgramOptions(const Settings& settings, UserInterface& user,
     options.TitleClr = settings.Color("TitleClr");
     options.AxesLblClr = settings.Color("AxesLblClr");
     options.UseLblColors = settings.IsYes("UseLblColors");
+    // The one flag here compared with NO: an odd value shows the user's directory as chosen.
     options.UserDirectoryActive = settings.IsNotNo("UserSpecifiedDirectoryActive");
     options.UserSpecDir = settings.Get("UserSpecDir");
     const double cursor = settings.Number("CursorType");
     options.CursorStyle = CursorStyleOf(cursor);
+    // -1 selects no button: the odd value stays stored until the user chooses
     options.CursorType = options.CursorStyle ? static_cast<int>(cursor) : -1;
     if (!options.CursorStyle) {
         user.ShowMessage({texts.Find(data_texts::kProgramTitle),

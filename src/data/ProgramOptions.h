@@ -18,7 +18,9 @@ struct ProgramOptions {
     std::string DisplayTimeTo;
     bool NotifyUserOfNewFiles = true;
     bool Fahrenheit = false;
+    // 0 continuous, 1 days over each other, 2 weeks over each other
     int GraphType = 0;
+    // 0 Sunday, 1 Monday
     int StartWeekOn = 0;
     int StartViewDayOn = 0;
     bool UseDataMarkers = true;
@@ -42,7 +44,8 @@ struct ProgramOptions {
     bool MarkOutOfToleranceInRed = false;
 };
 
-// Reads all options. A cursor index without a cursor is reported with a message.
+// Reads all options. A cursor index without a cursor is reported with a message. Called once, at
+// start-up: from then on each control stores its own option when the user changes it.
 ProgramOptions LoadProgramOptions(const Settings& settings, UserInterface& user,
                                   const Texts& texts);
 

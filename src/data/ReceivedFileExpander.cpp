@@ -39,6 +39,7 @@ Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(const std::string&
 bool ReceivedFileExpander::TakeByte(unsigned char byte) {
     if (byte == 0) return false;
     if (byte >= kFirstRepeat) {
+        // A repeat beyond the end of the line above stands for nothing; damaged streams hold such.
         if (line_.size() < previousLine_.size()) {
             line_.append(previousLine_, line_.size(), byte - kFirstRepeat);
         }
@@ -49,6 +50,7 @@ bool ReceivedFileExpander::TakeByte(unsigned char byte) {
 }
 
 Status ReceivedFileExpander::WriteLine(ReplacementFile& output) {
+    // What the link brings in front of the first header on its line is no part of the file.
     const auto header = instrumentSeen_ ? std::string::npos : line_.find("INSTRUMENT:");
     if (header != std::string::npos) {
         instrumentSeen_ = true;
@@ -58,6 +60,7 @@ Status ReceivedFileExpander::WriteLine(ReplacementFile& output) {
     // character, as it does in every file that users have from this instrument
     const std::size_t length = line_.size() < 2 ? 0 : line_.size() - 2;
     Status written = output.Write(line_.substr(0, length) + "\r\n");
+    // With its own line end, as received: repeats may reach over it.
     previousLine_ = std::exchange(line_, {});
     return written;
 }

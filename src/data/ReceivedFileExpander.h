@@ -18,7 +18,7 @@ class ReceivedFileExpander {
 
     // Writes the data file durably, replacing one of that name. The number of lines written; an
     // unfinished last line is not. The line that the last transfer ended with goes on serving as
-    // the line above the first of the next.
+    // the line above the first of the next. On any failure the old data file stays.
     Result<std::int64_t> ExpandReceivedFile(const std::string& rawPath,
                                             const std::string& dataPath);
 

@@ -14,6 +14,7 @@ std::vector<std::string> RecentFiles::List() const {
     const std::string stored = settings_.Get(kKey);
     for (std::string_view rest = stored; !rest.empty() && paths.size() < kMost;) {
         const auto end = rest.find('\n');
+        // an empty line comes from a settings file edited by hand
         if (end != 0) paths.emplace_back(rest.substr(0, end));
         rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
     }

@@ -14,9 +14,11 @@ class RecentFiles {
 
     explicit RecentFiles(Settings& settings) : settings_(settings) {}
 
+    // Full paths as they were opened; the files may be gone since.
     std::vector<std::string> List() const;
     // Puts a path at the top; it is listed once.
     void Add(const std::string& path);
+    // A path that is not listed changes nothing.
     void Remove(const std::string& path);
     void Clear() { Store({}); }
 

@@ -12,6 +12,7 @@
 namespace brask {
 
 // Only main and the main window take the whole; everybody else takes the single objects they use.
+// References: main keeps the objects alive for as long as the window stands.
 struct Session {
     DataSet& Data;
     DataFileLoader& Loader;

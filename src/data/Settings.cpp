@@ -59,7 +59,9 @@ std::string Settings::Get(const std::string& key) const {
 
 void Settings::Save(const std::string& key, std::string_view value) {
     std::string stored(Trimmed(value));
+    // The repair is made here, so that every way to store such a colour gets it.
     if (IsPlotLineColorKey(key)) RemoveDoubledAmpersands(stored);
+    // Callers go on either way: a full disk must not keep anyone from looking at data.
     const Status saved = StoreOf(key).Save(key, stored);
     if (!saved.Ok()) report_(key, saved.Why().Reason);
 }

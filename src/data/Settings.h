@@ -16,7 +16,8 @@ namespace brask {
 
 class Settings {
   public:
-    // Told which key could not be saved and why.
+    // Told which key could not be saved and why. Called from within Save; must not save settings
+    // itself.
     using FailureReport = std::function<void(const std::string& key, const std::string& reason)>;
 
     // `known` holds the known keys, `own` the program's own.
@@ -25,7 +26,7 @@ class Settings {
 
     // Whether the key is one of the two tables or a colour entry.
     static bool IsKnown(std::string_view key);
-    // The value that counts when none is stored.
+    // The value that counts when none is stored. Empty for an unknown key.
     std::string Default(const std::string& key) const;
     // The stored text as it stands, or the default.
     std::string Get(const std::string& key) const;
@@ -39,7 +40,8 @@ class Settings {
     bool IsNotNo(const std::string& key) const { return Get(key) != "NO"; }
     // The leading number of the value, 0 when it begins with none.
     double Number(const std::string& key) const;
-    // The value as an index of `count` controls; what names none becomes the nearest.
+    // The value as an index of `count` controls; what names none becomes the nearest. A fraction is
+    // cut: 1.9 names the control 1.
     int Index(const std::string& key, int count) const;
     ColorValue Color(const std::string& key) const;
 

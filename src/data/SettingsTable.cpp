@@ -8,6 +8,8 @@ namespace {
 
 using enum SettingForm;
 
+// Defaults are the stored texts: what a fresh installation behaves like, and what `settings list`
+// shows beside the value.
 const auto kKnown = std::to_array<SettingRow>({
     {"UpperToleranceLimit", kNumber, "1000", TextRow("settings", "upper tolerance limit, ppm")},
     {"UseToleranceCurve", kFlag, "NO",
@@ -84,6 +86,7 @@ bool IsPlotLineColorKey(std::string_view key) {
     constexpr std::string_view kPrefix = "PlotLineColor";
     if (key.substr(0, kPrefix.size()) != kPrefix) return false;
     const std::string_view number = key.substr(kPrefix.size());
+    // Six digits are far beyond the longest table and still fit a number.
     return !number.empty() && number.size() <= 6 && number[0] != '0' &&
            std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
 }

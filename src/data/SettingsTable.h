@@ -16,6 +16,7 @@ struct SettingRow {
     const char* Key;
     SettingForm Form;
     const char* Default;
+    // one line for `brask settings list`
     TextRow Meaning;
 };
 

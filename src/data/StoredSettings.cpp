@@ -31,6 +31,8 @@ StoredSettings::StoredSettings(const Needs& needs, const std::string& path, Save
               needs_.Log.WriteLog(line);
               failed_(line);
           }) {
+    // From here on damage is met by a save, and somebody is there to be told; before, whoever asks
+    // Damage() is.
     opened_ = true;
 }
 

@@ -29,6 +29,7 @@ class StoredSettings {
     // Opens the file at path, or the user's own when the path is empty.
     StoredSettings(const Needs& needs, const std::string& path, SaveFailure failed);
 
+    // Valid as long as this object.
     Settings& Options() { return settings_; }
     // One line for the user about a damaged file that was set aside, or one that cannot be read
     // (defaults then serve); empty when all is well. It is in the log already.

@@ -7,6 +7,8 @@ namespace brask {
 
 struct DataSet;
 
+// One object for the whole run. A load takes a copy of it: the unit does not change while a file is
+// read.
 class TemperatureUnit {
   public:
     explicit TemperatureUnit(bool fahrenheit = false) : fahrenheit_(fahrenheit) {}

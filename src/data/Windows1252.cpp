@@ -30,6 +30,7 @@ void AppendUtf8(std::string& text, unsigned code) {
 
 std::string Windows1252ToUtf8(std::string_view bytes) {
     std::string text;
+    // nearly all texts are plain ASCII and keep their length
     text.reserve(bytes.size());
     for (const char c : bytes) {
         const unsigned byte = static_cast<unsigned char>(c);

@@ -6,6 +6,7 @@
 
 namespace brask {
 
+// Every byte has a character, so it never fails.
 std::string Windows1252ToUtf8(std::string_view bytes);
 
 }  // namespace brask

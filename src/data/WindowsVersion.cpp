@@ -17,6 +17,7 @@ std::string ServicePackText(const VersionRecord& version) { return version.Servi
 std::string UnsupportedName(const VersionRecord& version) {
     if (version.Platform != 1 || version.Major != 4) return "";
     if (version.Minor < 10) return "95";
+    // that release says "A" (or " A ") where others name a service pack
     const bool secondEdition = ServicePackText(version).find_first_of("Aa") != std::string::npos;
     return version.Minor == 10 && !secondEdition ? "98 (not second edition)" : "";
 }
@@ -40,6 +41,8 @@ WindowsKind CheckWindowsVersion(const SystemInformation& system, UserInterface& 
         return WindowsKind::kNotClassified;
     }
     const std::string name = UnsupportedName(*version);
+    // Only an exact NO lets it be shown again: somebody who edits the file to anything else wants
+    // quiet.
     if (!name.empty() && !settings.IsNotNo("WarnedVers")) {
         user.ShowMessage({texts.Find(kVersionTitle),
                           texts.Fill(kVersionWarning,

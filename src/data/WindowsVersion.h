@@ -20,6 +20,7 @@ enum class WindowsKind : std::int16_t {
     kNt5 = 5,       // major 5 from build 2196 on
 };
 
+// Only kNt5 changes what the program does: data may then go below the documents of all users.
 WindowsKind ClassifyWindows(const VersionRecord& version);
 
 // Run once at start-up: classifies the system, and warns once per user ("WarnedVers") when it is

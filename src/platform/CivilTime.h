@@ -5,6 +5,8 @@
 
 namespace brask {
 
+// The defaults are the day that serials count from. Nothing checks the fields: IsCalendarDate tells
+// whether such a date exists.
 struct CivilDate {
     int Year = 1899;
     int Month = 12;  // 1..12
@@ -13,8 +15,11 @@ struct CivilDate {
     auto operator<=>(const CivilDate&) const = default;
 };
 
+// Compares in the order of time, from the year down to the second.
 struct CivilDateTime {
     CivilDate Date;
+    // 0..23, 0..59 and 0..59; there are no leap seconds and nothing finer than a second, as in the
+    // data files.
     int Hour = 0;
     int Minute = 0;
     int Second = 0;

@@ -19,9 +19,11 @@ class InputFile {
   public:
     virtual ~InputFile() = default;
 
-    // Fills the buffer from where the last read ended; fewer bytes only at the end, 0 there.
+    // Fills the buffer from where the last read ended; fewer bytes only at the end, 0 there. An
+    // error leaves it open how much of the buffer was filled; callers give the whole call up.
     virtual Result<std::size_t> Read(std::span<char> buffer) = 0;
-    // Its length in bytes when it was opened; it may have grown or shrunk since.
+    // Its length in bytes when it was opened; it may have grown or shrunk since. Good for estimates
+    // and progress, never as the number of bytes to expect.
     virtual std::uint64_t Size() const = 0;
 };
 
@@ -31,18 +33,24 @@ class ReplacementFile {
   public:
     virtual ~ReplacementFile() = default;
 
+    // Bytes are collected, so that many small writes cost little; a full disk may therefore show
+    // only at a later Write or at Commit.
     virtual Status Write(std::string_view bytes) = 0;
-    // Flushes to disk, renames over the target, flushes the directory.
+    // Flushes to disk, renames over the target, flushes the directory. To be called once, last.
+    // When it fails the target still holds the old file, unless only the last flush of the
+    // directory failed, when the new one stands but may not survive a power cut.
     virtual Status Commit() = 0;
 };
 
-// Held by at most one process at a time; dies with its holder.
+// Held by at most one process at a time; dies with its holder. Destroying the object lets go of the
+// lock.
 class FileLock {
   public:
     virtual ~FileLock() = default;
 };
 
-// Folders whose place the system knows.
+// Folders whose place the system knows. Named by what they are for, so that each system can answer
+// with its own conventions.
 enum class KnownFolder {
     kUserDocuments,     // of this user
     kSharedDocuments,   // of all users; the same as the user's own where the system has none
@@ -52,6 +60,8 @@ enum class KnownFolder {
     kLog,               // the folder of the diagnostic log
 };
 
+// Callers tell few errors apart by number: ENOENT (nothing there yet) and EFBIG; all others are
+// only shown.
 class Files {
   public:
     virtual ~Files() = default;
@@ -62,25 +72,33 @@ class Files {
     virtual Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) = 0;
     // Adds bytes at the end of a file, which is created when missing.
     virtual Status Append(const std::string& path, std::string_view bytes) = 0;
-    // A new empty file of a name that nobody else has; the caller removes it.
+    // A new empty file of a name that nobody else has; the caller removes it. Lies in the system's
+    // temporary directory; the result is its full path.
     virtual Result<std::string> CreateTemporary(const std::string& namePrefix) = 0;
     // Copies byte for byte and durably; refuses a target that exists, with the system's number.
     virtual Status CopyToNew(const std::string& source, const std::string& target) = 0;
-    // Renames, replacing an existing target. Fails across file systems.
+    // Renames, replacing an existing target. Fails across file systems. For that case FilePlacing
+    // copies and removes instead.
     virtual Status Move(const std::string& source, const std::string& target) = 0;
+    // Removes one file; a missing one is an error, a directory is not removed.
     virtual Status Remove(const std::string& path) = 0;
+    // Makes one directory whose parent exists; an existing one is an error.
     virtual Status MakeDirectory(const std::string& path) = 0;
     // Makes a directory with all its parents; Ok when it exists already.
     virtual Status MakeDirectoryChain(const std::string& path) = 0;
 
+    // What cannot be looked at (no permission, a broken link) counts as not there.
     virtual bool Exists(const std::string& path) const = 0;
     virtual bool IsDirectory(const std::string& path) const = 0;
     // Whether two paths lead to one existing file, by whatever links.
     virtual bool SameFile(const std::string& a, const std::string& b) const = 0;
-    // Waits for the lock on this path (at most two seconds); the file is created and stays.
+    // Waits for the lock on this path (at most two seconds); the file is created and stays. A
+    // holder that crashed holds nothing, so there is no stale lock to clean up. The file itself is
+    // left behind on purpose: removing it would let two programs lock two files of one name.
     virtual Result<std::unique_ptr<FileLock>> Lock(const std::string& path) = 0;
 
-    // Without a separator at its end; empty when the system knows none.
+    // Without a separator at its end; empty when the system knows none. Names the folder; it need
+    // not exist yet.
     virtual std::string Folder(KnownFolder folder) const = 0;
     // The absolute form of a path, without "." and "..", links not resolved.
     virtual std::string Absolute(const std::string& path) const = 0;
@@ -92,14 +110,17 @@ class Files {
 // whole path when there is none.
 std::string BaseName(const Files& files, const std::string& path);
 
-// The whole content of a file of at most `limit` bytes; a longer one fails with EFBIG.
+// The whole content of a file of at most `limit` bytes; a longer one fails with EFBIG. For files of
+// a known small size, such as settings: a device or a file put there by mistake cannot fill the
+// memory.
 Result<std::string> ReadWholeFile(Files& files, const std::string& path, std::size_t limit);
 
 // Copies all that is left of a file into one that is being written, in blocks of `blockSize` bytes,
 // and commits it.
 Status CopyAndCommit(InputFile& source, ReplacementFile& target, std::size_t blockSize);
 
-// Replaces a file by these bytes in one durable step.
+// Replaces a file by these bytes in one durable step. A crash at any moment leaves the old content
+// or the new one, never a mixture.
 Status WriteWholeFile(Files& files, const std::string& path, std::string_view bytes);
 
 }  // namespace brask

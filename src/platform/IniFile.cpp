@@ -19,6 +19,7 @@ std::string Encode(std::string_view text, bool isKey) {
     std::string encoded;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
+        // Only what Parse would lose or misread is encoded, so that paths and names stay readable.
         const bool atEnd = i == 0 || i + 1 == text.size();
         const bool blank = atEnd && (c == ' ' || c == '\t');
         const bool special = c == '%' || c == '\r' || c == '\n' || c == '\0';
@@ -37,6 +38,7 @@ std::string Encode(std::string_view text, bool isKey) {
 std::string Decode(std::string_view text) {
     std::string decoded;
     for (std::size_t i = 0; i < text.size(); ++i) {
+        // A "%" that no two hexadecimal digits follow stands for itself: people type it by hand.
         const int high = text[i] == '%' && i + 2 < text.size() ? HexDigit(text[i + 1]) : -1;
         const int low = high >= 0 ? HexDigit(text[i + 2]) : -1;
         if (low < 0) {
@@ -66,6 +68,8 @@ Result<IniFile> IniFile::Parse(std::string_view content) {
         const auto end = content.find('\n');
         const std::string_view line = Trimmed(content.substr(0, end), kBlanks);
         content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
+        // Zero bytes are what a file system leaves of a file after a power cut; no editor writes
+        // them.
         if (line.find('\0') != std::string_view::npos) {
             return Error{0, "line " + std::to_string(number) + " holds a zero byte"};
         }
@@ -88,6 +92,7 @@ Result<IniFile> IniFile::Parse(std::string_view content) {
     return file;
 }
 
+// From the end, since the last of two equal keys counts; Set changes that same one.
 std::optional<std::string> IniFile::Get(const std::string& section, const std::string& key) const {
     for (auto line = lines_.rbegin(); line != lines_.rend(); ++line) {
         if (line->IsSetting && line->Section == section && line->Key == key) return line->Value;
@@ -101,9 +106,12 @@ void IniFile::Set(const std::string& section, const std::string& key, const std:
         line->Value = value;
         return;
     }
+    // A section may be empty or stand in several parts; the new key goes behind the last line of
+    // it.
     const auto last = std::find_if(lines_.rbegin(), lines_.rend(),
                                    [&](const Line& line) { return line.Section == section; });
     auto place = last.base();
+    // the first setting of a section brings its head with it
     if (last == lines_.rend()) {
         lines_.push_back({section, "", "[" + section + "]", false});
         place = lines_.end();

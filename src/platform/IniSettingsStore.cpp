@@ -8,11 +8,13 @@ namespace brask {
 IniSettingsFile::IniSettingsFile(Files& files, std::string path, DamageReport report)
     : files_(files), path_(std::move(path)), report_(std::move(report)) {
     if (path_.empty()) return;
+    // The program starts with its defaults rather than not at all.
     if (const Status read = Reload(); !read.Ok()) report_(read.Why().Reason, "");
 }
 
 Status IniSettingsFile::Reload() {
     const auto bytes = ReadWholeFile(files_, path_, kSizeLimit);
+    // the first start, or the user has removed the file to get the defaults back
     if (!bytes.Ok() && bytes.Why().Number == ENOENT) {
         content_ = IniFile();
         return {};
@@ -28,6 +30,7 @@ Status IniSettingsFile::Reload() {
 // What was read before stays in force: a file damaged while the program runs costs nothing.
 Status IniSettingsFile::SetAside(const std::string& reason) {
     std::string kept = path_ + ".bad";
+    // an earlier damaged file is never overwritten: it may be the one that can be repaired
     for (int number = 2; files_.Exists(kept); ++number) {
         kept = path_ + ".bad" + std::to_string(number);
     }
@@ -48,9 +51,13 @@ Status IniSettingsFile::Save(const std::string& section, const std::string& key,
     if (!directory.empty()) {
         if (Status made = files_.MakeDirectoryChain(directory); !made.Ok()) return made;
     }
+    // A file of its own carries the lock, since the settings file is replaced by every save and a
+    // lock on it would stay with the old one.
     const auto lock = files_.Lock(path_ + ".lock");
     if (!lock.Ok()) return lock.Why();
+    // read under the lock: what another program has saved meanwhile must not be undone
     if (Status read = Reload(); !read.Ok()) return read;
+    // changed in a copy: when writing fails, Get goes on telling what the file holds
     IniFile changed = content_;
     changed.Set(section, key, value);
     const std::string text = changed.Text();

@@ -27,10 +27,14 @@ class IniSettingsFile {
     // empty path (no folder for settings is known) is a file that nothing can be saved to.
     IniSettingsFile(Files& files, std::string path, DamageReport report);
 
+    // Empty when no folder for settings is known.
     const std::string& Path() const { return path_; }
 
+    // From memory, as the file was at the last read or save; never fails.
     std::string Get(const std::string& section, const std::string& key,
                     const std::string& defaultValue) const;
+    // Durable when Ok. What another program changed since is read first and so is not lost; on
+    // failure both the file and the value in memory stay as they were.
     Status Save(const std::string& section, const std::string& key, const std::string& value);
 
   private:
@@ -40,9 +44,11 @@ class IniSettingsFile {
     Files& files_;
     std::string path_;
     DamageReport report_;
+    // what Get answers from
     IniFile content_;
 };
 
+// One section of the file as a store of its own; the file must outlive it.
 class IniSettingsStore final : public SettingsStore {
   public:
     IniSettingsStore(IniSettingsFile& file, std::string section)

@@ -14,11 +14,13 @@ namespace brask {
 
 class NativeSystem {
   public:
+    // Never fails: what the system does not tell has a stand-in, such as the "C" locale.
     NativeSystem();
     ~NativeSystem();
     NativeSystem(const NativeSystem&) = delete;
     NativeSystem& operator=(const NativeSystem&) = delete;
 
+    // All of these live as long as this object.
     Files& Disk();
     Programs& OtherPrograms();
     const Clock& Time() const;
@@ -26,6 +28,7 @@ class NativeSystem {
     const SystemInformation& Information() const;
 
   private:
+    // Behind a pointer, so that no header of one system is seen by code that runs on all.
     struct Parts;
     std::unique_ptr<Parts> parts_;
 };

@@ -8,6 +8,7 @@ bool ShowProgramError(UserInterface& user, const Texts& texts, const ProgramErro
     const std::string& context = error.Context.empty() ? error.Operation : error.Context;
     Message message{texts.Fill(platform_texts::kErrorTitle, {error.Operation}),
                     texts.Fill(platform_texts::kErrorDescription, {error.Description, context})};
+    // Without a way to end, there is nothing to choose between: one button.
     if (!error.AllowEnd) {
         user.ShowMessage(message);
         return true;

@@ -9,9 +9,12 @@
 namespace brask {
 
 struct ProgramError {
+    // what the program was doing; stands in the title
     std::string Operation;
+    // what the system or the failed step said about it
     std::string Description;
     std::string Context;  // the operation when empty
+    // whether the user may end the program here
     bool AllowEnd = true;
 };
 

@@ -16,7 +16,8 @@ class Programs {
     // that of this process. A name without a separator is looked for where the system keeps
     // programs. `arguments` come behind the program's own name. Returns only when it failed.
     virtual Error Become(const std::string& program, std::span<const std::string> arguments) = 0;
-    // Whether a person watches standard error.
+    // Whether a person watches standard error. Progress is drawn only then: in a log file it would
+    // be noise.
     virtual bool ErrorOutputIsTerminal() const = 0;
 };
 

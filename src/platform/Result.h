@@ -15,10 +15,13 @@ struct Error {
     std::string Reason;
 };
 
-// Success, or an Error.
+// Success, or an Error. For steps that make nothing but can fail. A caller that drops one without
+// looking gets a warning from the compiler; where failure is of no consequence the code says so
+// with a cast to void.
 class [[nodiscard]] Status {
   public:
     Status() = default;
+    // Implicit, so that a function simply returns what went wrong or {}.
     Status(Error error) : error_(std::move(error)) {}  // NOLINT(google-explicit-constructor)
 
     bool Ok() const { return !error_; }
@@ -29,7 +32,7 @@ class [[nodiscard]] Status {
     std::optional<Error> error_;
 };
 
-// A value, or the Error that kept it from being made.
+// A value, or the Error that kept it from being made. T must not be Error itself.
 template <class T>
 class [[nodiscard]] Result {
   public:

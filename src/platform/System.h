@@ -11,6 +11,7 @@
 namespace brask {
 
 // Only main and the main window take the whole; everybody else takes the single seams they use.
+// References only: who fills it keeps the objects alive until the last window is gone.
 struct System {
     UserInterface& User;
     const Texts& Words;

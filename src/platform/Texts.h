@@ -14,6 +14,7 @@ namespace brask {
 struct TextRow {
     constexpr TextRow(const char* table, const char* english) : Table(table), English(english) {}
 
+    // Both point to literals, which live as long as the program.
     const char* Table;
     const char* English;
 };
@@ -22,7 +23,8 @@ class Texts {
   public:
     virtual ~Texts() = default;
 
-    // The row's wording in the language in force, places still open.
+    // The row's wording in the language in force, places still open. A row without a translation
+    // comes back in English.
     virtual std::string Find(const TextRow& row) const = 0;
 
     // The row's wording with %1, %2, ... replaced by the arguments, in one pass: a "%1" inside an
@@ -30,7 +32,8 @@ class Texts {
     std::string Fill(const TextRow& row, std::initializer_list<std::string_view> arguments) const;
 };
 
-// The texts as written: English.
+// The texts as written: English. What the shell programs use always, so that scripts can rely on
+// the wording.
 class EnglishTexts final : public Texts {
   public:
     std::string Find(const TextRow& row) const override { return row.English; }

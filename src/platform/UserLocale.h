@@ -15,7 +15,9 @@ class UserLocale {
   public:
     virtual ~UserLocale() = default;
 
+    // How numeric dates are read and written.
     virtual LongDateOrder DateOrder() const = 0;
+    // "." or ",". For what users type and see on axes; files and settings always use ".".
     virtual char DecimalSign() const = 0;
     // The date and the time of day as the system writes them, UTF-8.
     virtual std::string ShortDate(const CivilDate& date) const = 0;

@@ -11,6 +11,7 @@ unsigned Byte(std::string_view text, std::size_t at) {
 bool IsControl(std::string_view character) {
     const unsigned first = Byte(character, 0);
     if (character.size() == 1) return first < 0x20 || first == 0x7F;
+    // U+0080 to U+009F, some of which terminals obey like an escape sequence
     return first == 0xC2 && Byte(character, 1) < 0xA0;
 }
 
@@ -35,6 +36,7 @@ std::size_t CharacterCount(std::string_view text) {
     std::size_t count = 0;
     for (; !text.empty(); ++count) {
         const std::size_t length = FirstCharacterLength(text);
+        // each bad byte counts, as PrintableText replaces each by one character
         text.remove_prefix(length == 0 ? 1 : length);
     }
     return count;
@@ -47,6 +49,7 @@ std::string PrintableText(std::string_view text) {
         const std::size_t length = FirstCharacterLength(text);
         const std::string_view character = text.substr(0, length == 0 ? 1 : length);
         const bool layout = character == "\n" || character == "\t";
+        // a carriage return is bad, too: it would let a text overwrite the line that it stands on
         const bool bad = length == 0 || (IsControl(character) && !layout);
         printable += bad ? kReplacementCharacter : character;
         text.remove_prefix(character.size());

@@ -19,12 +19,14 @@ namespace {
 void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 Status Draw(const Chart& chart, const PlotRequest& request, NativeSystem& system) {
+    // The platform that draws into memory needs no display; a user's own choice stands.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(DropMessage);
     // options are ours: Qt must not pick any out of the command line
     int count = 1;
     std::string name = "brask-plot";
     char* arguments[] = {name.data(), nullptr};
+    // Made only now: what fails before need not wait for Qt to start.
     const QApplication application(count, static_cast<char**>(arguments));
     DynaPlot plot(chart, system.Locale());
     plot.ShowChart();
@@ -42,12 +44,14 @@ ExitStatus RunDraw(Shell& shell, const CommandLine& line) {
     OverrideLayout(line, options);
     const auto period =
         ReadPeriod(request.Value(), options.Layout, session.DateOrder(), shell.Words);
+    // Only here, not with the other options: the layout may come from the settings.
     if (!period.Ok()) return WrongUsage(period.Why().Reason);
 
     std::optional<PlotRequest> written;
     if (session.Load(line.Arguments()[0])) {
         Chart chart;
         PlotBuilder(chart, session.Data(), shell.System.Locale(), shell.Words).Rebuild(options);
+        // After the build, which sets the axes to all readings.
         if (const auto& range = period.Value()) chart.X.SetRange(range->Minimum, range->Maximum);
         const Status drawn = Draw(chart, request.Value(), shell.System);
         if (drawn.Ok()) {

@@ -10,6 +10,7 @@ namespace {
 
 using brask::TextRow;
 
+// The same row as in brask but for the function behind it: both read one command line alike.
 const auto kCommands = std::to_array<brask::CommandRow>({
     {"plot", "FILE -o PICTURE", TextRow("cli", "draw the plot into a picture file"),
      brask::DrawingOptions(), 1, 1, brask::RunDraw},

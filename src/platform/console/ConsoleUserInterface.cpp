@@ -7,6 +7,8 @@
 namespace brask {
 namespace {
 
+// Five bars a second: smooth to the eye, and few enough for a slow remote terminal. The first comes
+// after one interval, so that short work shows none.
 constexpr std::int64_t kProgressInterval = 200;  // milliseconds
 
 // "[######..............]  30 %  ", nothing while the end is unknown.
@@ -65,6 +67,7 @@ void ConsoleUserInterface::EndProgress() { ClearProgress(); }
 void ConsoleUserInterface::ShowNotice(const std::string& text) { WriteLines(text); }
 
 void ConsoleUserInterface::ClearProgress() {
+    // back to the first column and erase the rest: a message must not stand behind half a bar
     if (progressShown_) std::fputs("\r\033[K", out_);
     progressShown_ = false;
 }
@@ -72,6 +75,7 @@ void ConsoleUserInterface::ClearProgress() {
 void ConsoleUserInterface::WriteLines(const std::string& text) {
     ClearProgress();
     std::string lines = text;
+    // messages join their lines by CR LF, as message boxes want it
     lines.erase(std::remove(lines.begin(), lines.end(), '\r'), lines.end());
     lines = PrintableText(lines) + "\n";
     std::fwrite(lines.data(), 1, lines.size(), out_);

@@ -21,16 +21,20 @@ class ConsoleUserInterface final : public UserInterface {
     // Writes to `out`, which must outlive this object.
     ConsoleUserInterface(std::FILE* out, const Clock& clock, ConsoleOptions options);
 
-    // Every message shown so far, in order, UTF-8.
+    // Every message shown so far, in order, UTF-8. Questions are among them, notices are not. A
+    // JSON document of the shell ends with this list.
     const std::vector<std::string>& Messages() const { return messages_; }
 
+    // Only the text is written; a title means nothing in a terminal.
     void ShowMessage(const Message& message) override;
+    // Always wants more: a script must see every rejected line.
     bool ShowRepeatedMessage(const Message& message) override;
     bool AskYesNo(const Message& question) override;
     bool AskRetry(const Message& message) override;
     void BeginProgress(ProgressMode mode) override;
     void SetProgressTotal(std::int64_t expected) override { expected_ = expected; }
     void SetProgressCount(std::int64_t count) override;
+    // An interrupt from the keyboard ends the process; there is no other way to cancel here.
     bool ProgressCancelled() const override { return false; }
     void EndProgress() override;
     void ShowNotice(const std::string& text) override;

@@ -7,6 +7,7 @@ namespace brask {
 
 CivilDateTime PosixClock::Now() const {
     const std::time_t now = std::time(nullptr);
+    // localtime_r, since the other form keeps its result in a place that all callers share
     std::tm local{};
     localtime_r(&now, &local);
     return {{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},

@@ -15,11 +15,12 @@ std::string WithoutSlash(std::string path) {
 
 std::string Home(const Environment& environment) {
     if (std::string home = environment("HOME"); !home.empty()) return WithoutSlash(home);
+    // what is started as a service may run without HOME
     const passwd* entry = getpwuid(getuid());
     return entry != nullptr && entry->pw_dir != nullptr ? WithoutSlash(entry->pw_dir) : "";
 }
 
-// Relative values are to be ignored.
+// Relative values are to be ignored. They would name another folder from every working directory.
 std::string BaseDirectory(const Environment& environment, const char* name, const char* below) {
     const std::string value = environment(name);
     if (!value.empty() && value[0] == '/') return WithoutSlash(value);
@@ -38,6 +39,8 @@ std::string Documents(const Environment& environment) {
         const auto end = line.find_last_of('"');
         if (line.rfind(key, 0) != 0 || end < key.size()) continue;
         const std::string value = line.substr(key.size(), end - key.size());
+        // The file is written for a shell, but "$HOME" in front is the only expansion that it may
+        // hold.
         if (value.rfind("$HOME", 0) == 0) return WithoutSlash(home + value.substr(5));
         if (!value.empty() && value[0] == '/') return WithoutSlash(value);
     }
@@ -49,6 +52,7 @@ std::string Documents(const Environment& environment) {
 std::string XdgFolder(KnownFolder folder, const Environment& environment) {
     switch (folder) {
         case KnownFolder::kUserDocuments:
+        // There is no documents folder of all users here.
         case KnownFolder::kSharedDocuments:
             return Documents(environment);
         case KnownFolder::kDocumentsMissing:

@@ -8,7 +8,8 @@
 
 namespace brask::posix {
 
-// The value of an environment variable, empty when unset.
+// The value of an environment variable, empty when unset. Handed in, so that tests need not change
+// the environment of the process.
 using Environment = std::function<std::string(const char*)>;
 
 // The folder without a separator at its end, after the XDG Base Directory rules and, for the

@@ -21,6 +21,7 @@ inline Error LastError() {
     return {number, strerror_r(number, buffer, sizeof buffer)};
 }
 
+// Owns a descriptor and cannot be copied; -1 stands for none.
 class Handle {
   public:
     explicit Handle(int descriptor = -1) : descriptor_(descriptor) {}
@@ -36,6 +37,7 @@ class Handle {
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
 
+    // Whether there is a descriptor; errno tells why not.
     bool Open() const { return descriptor_ >= 0; }
     int Get() const { return descriptor_; }
     // False when the system reports a late write error.
@@ -48,7 +50,8 @@ class Handle {
     int descriptor_;
 };
 
-// Writes all bytes, however many calls that takes.
+// Writes all bytes, however many calls that takes. A failure can come after part of them was
+// written.
 inline Status WriteAll(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
@@ -59,7 +62,7 @@ inline Status WriteAll(int descriptor, std::string_view bytes) {
     return {};
 }
 
-// The directory that a path lies in.
+// The directory that a path lies in. "." for a bare name, "/" for what lies in the root.
 inline std::string DirectoryOf(const std::string& path) {
     const auto slash = path.find_last_of('/');
     if (slash == std::string::npos) return ".";

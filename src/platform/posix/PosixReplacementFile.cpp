@@ -21,6 +21,8 @@ std::string FollowLinks(const std::string& path) {
 mode_t PermissionsFor(const std::string& target) {
     struct stat status {};
     if (::stat(target.c_str(), &status) == 0) return status.st_mode & 07777;
+    // mkostemp makes files that only their owner may read; a data file is meant to be shared like
+    // any other new file.
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return 0666 & ~mask;
@@ -30,6 +32,7 @@ mode_t PermissionsFor(const std::string& target) {
 
 Result<std::unique_ptr<PosixReplacementFile>> PosixReplacementFile::Start(const std::string& path,
                                                                           bool newOnly) {
+    // Users keep data files and settings behind links; renaming over the link would cut it off.
     const std::string target = newOnly ? path : FollowLinks(path);
     struct stat status {};
     if (::stat(target.c_str(), &status) == 0) {
@@ -58,10 +61,12 @@ PosixReplacementFile::PosixReplacementFile(std::string target, std::string sibli
       newOnly_(newOnly) {}
 
 PosixReplacementFile::~PosixReplacementFile() {
+    // also after link(), which leaves the sibling as a second name of the finished file
     if (!sibling_.empty()) ::unlink(sibling_.c_str());
 }
 
 Status PosixReplacementFile::Write(std::string_view bytes) {
+    // A writer of many short lines costs one call of the system per 256 KiB.
     pending_ += bytes;
     return pending_.size() < kPendingLimit ? Status() : Flush();
 }
@@ -74,6 +79,8 @@ Status PosixReplacementFile::Flush() {
 
 Status PosixReplacementFile::Commit() {
     if (Status written = Flush(); !written.Ok()) return written;
+    // Before the rename: else a power cut can leave the new name with no content behind it. Network
+    // file systems report a full disk as late as at the close.
     if (::fsync(handle_.Get()) != 0 || !handle_.Close()) return LastError();
     if (Status placed = PutInPlace(); !placed.Ok()) return placed;
     return FlushDirectory(DirectoryOf(target_));

@@ -11,7 +11,10 @@ namespace brask::posix {
 
 class PosixReplacementFile final : public ReplacementFile {
   public:
-    // Starts a sibling of the target. With `newOnly` Commit refuses a target that exists.
+    // Starts a sibling of the target. With `newOnly` Commit refuses a target that exists. The
+    // sibling is called ".brask-" and six random characters. It lies in the same directory because
+    // a rename is one step only within a file system. A path that is a link replaces the file
+    // behind the link, not the link.
     static Result<std::unique_ptr<PosixReplacementFile>> Start(const std::string& path,
                                                                bool newOnly);
     ~PosixReplacementFile() override;
@@ -26,7 +29,9 @@ class PosixReplacementFile final : public ReplacementFile {
     Status Flush();
     Status PutInPlace();
 
+    // where Commit puts the file; links are resolved unless it must be new
     std::string target_;
+    // the temporary file; empty once it has been renamed
     std::string sibling_;
     Handle handle_;
     bool newOnly_;

@@ -21,7 +21,9 @@ std::string PosixSystemInformation::UserName() const {
 }
 
 std::string PosixSystemInformation::ProgramDirectory() const {
+    // as long as a path can be here (PATH_MAX)
     char path[4096];
+    // not the first word of the command line, which the caller is free to choose
     const ssize_t length = readlink("/proc/self/exe", path, sizeof path);
     if (length <= 0) return ".";
     const std::string_view program(path, static_cast<std::size_t>(length));

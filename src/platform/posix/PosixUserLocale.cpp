@@ -43,6 +43,8 @@ LongDateOrder DateOrderOfFormat(const std::string& format) {
         if (sign == std::string::npos) break;
         order += PartsOf(format[sign++]);
     }
+    // Anything else, such as a format without a year, falls to the order that the program grew up
+    // with.
     if (order == "dmy") return LongDateOrder::kDayMonthYear;
     if (order == "ymd") return LongDateOrder::kYearMonthDay;
     return LongDateOrder::kMonthDayYear;
@@ -66,6 +68,7 @@ LongDateOrder PosixUserLocale::DateOrder() const {
 
 char PosixUserLocale::DecimalSign() const {
     const char* sign = nl_langinfo_l(RADIXCHAR, reinterpret_cast<locale_t>(handle_));
+    // a few locales have a sign of several bytes; there "." is what every keyboard has
     return sign[0] == ',' ? ',' : '.';
 }
 
@@ -80,6 +83,7 @@ std::string PosixUserLocale::Format(const char* format, const CivilDateTime& tim
     // some countries write the day of the week, too: this fills it in
     static_cast<void>(timegm(&fields));
     char text[256];
+    // %x and %X give what the locale itself would write, 12-hour clocks included
     const auto length =
         strftime_l(text, sizeof text, format, &fields, reinterpret_cast<locale_t>(handle_));
     return {text, length};

@@ -8,7 +8,7 @@ namespace brask {
 
 class PosixUserLocale final : public UserLocale {
   public:
-    // An unknown locale name falls back to "C".
+    // An unknown locale name falls back to "C". The empty name means what the environment says.
     explicit PosixUserLocale(const char* name = "");
     ~PosixUserLocale() override;
     PosixUserLocale(const PosixUserLocale&) = delete;
@@ -24,6 +24,7 @@ class PosixUserLocale final : public UserLocale {
   private:
     std::string Format(const char* format, const CivilDateTime& time) const;
 
+    // A locale_t, kept opaque so that this header needs none of the system's.
     struct Handle;
     Handle* handle_;
 };

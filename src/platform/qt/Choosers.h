@@ -16,6 +16,7 @@ struct FileQuestion {
     QString DefaultSuffix;  // added to a name without extension; for saving
 };
 
+// A seam of its own, because tests cannot click in the system's dialogs.
 class Choosers {
   public:
     virtual ~Choosers() = default;

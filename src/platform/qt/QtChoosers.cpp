@@ -8,6 +8,7 @@ namespace {
 
 // Qt matches letter case; a camera's or handheld's "RUN1.CSV" is a data file all the same.
 QString AnyCase(const QString& pattern) {
+    // "*.*" would leave out names without a dot
     if (pattern == QStringLiteral("*.*")) return QStringLiteral("*");
     const QString upper = pattern.toUpper();
     return upper == pattern ? pattern : pattern + QLatin1Char(' ') + upper;

@@ -11,7 +11,8 @@ class QtChoosers final : public Choosers {
     std::optional<QString> FileToSave(QWidget* parent, const FileQuestion& question) override;
 };
 
-// "All Files|*.*|CSV Files|*.csv" in Qt's form, extensions in any letter case.
+// "All Files|*.*|CSV Files|*.csv" in Qt's form, extensions in any letter case. "CSV Files|*.csv"
+// becomes "CSV Files (*.csv *.CSV)".
 QString QtFilter(const QString& filter);
 
 }  // namespace brask

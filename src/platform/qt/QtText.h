@@ -8,6 +8,7 @@
 
 namespace brask {
 
+// Bytes that are not UTF-8 become replacement characters.
 QString ToQt(const std::string& utf8);
 std::string FromQt(const QString& text);
 // A row in the language in force.

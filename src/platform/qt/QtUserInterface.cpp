@@ -15,6 +15,7 @@ constexpr qint64 kPumpInterval = 10;  // milliseconds
 void Fill(QMessageBox& box, const Message& message) {
     box.setWindowTitle(ToQt(message.Title));
     box.setTextFormat(Qt::PlainText);
+    // Messages join their lines by CR LF; a Qt text breaks at LF alone.
     box.setText(ToQt(message.Text).remove(QLatin1Char('\r')));
 }
 
@@ -100,12 +101,14 @@ void QtUserInterface::SetWaitCursor(bool waiting) {
 }
 
 void QtUserInterface::LetEventsRun() {
+    // Asked far more often than a screen can follow; pumping each time would slow the work down.
     if (sinceEvents_.elapsed() < kPumpInterval) return;
     QApplication::processEvents();
     sinceEvents_.restart();
 }
 
 void QtUserInterface::EndProgram() {
+    // closing the windows asks for the end again
     if (ended_) return;
     ended_ = true;
     QApplication::closeAllWindows();

@@ -17,8 +17,11 @@ class ProgressView {
   public:
     virtual ~ProgressView() = default;
 
+    // Shows the view; a cancel of earlier work is forgotten.
     virtual void Begin(ProgressMode mode) = 0;
+    // Called often: the view decides how often it repaints.
     virtual void SetCount(std::int64_t count) = 0;
+    // Whether the user has asked to stop since Begin.
     virtual bool Cancelled() const = 0;
     virtual void End() = 0;
 };
@@ -36,7 +39,8 @@ class QtUserInterface final : public UserInterface {
     // `noMoreMessages` is the caption of the box that switches repeated messages off.
     QtUserInterface(const Texts& texts, const TextRow& noMoreMessages);
 
-    // The views may come and go with the main window; without them nothing is shown.
+    // The views may come and go with the main window; without them nothing is shown. Null views are
+    // allowed; the views are not owned.
     void SetViews(QWidget* window, ProgressView* progress, NoticeView* notices);
 
     void ShowMessage(const Message& message) override;

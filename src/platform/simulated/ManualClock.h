@@ -7,6 +7,7 @@ namespace brask {
 
 class ManualClock final : public Clock {
   public:
+    // Set directly by the test; the two do not follow each other.
     CivilDateTime Local{{2004, 3, 5}, 13, 30, 0};
     std::int64_t Milliseconds = 0;
 

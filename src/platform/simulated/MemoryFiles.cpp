@@ -41,6 +41,7 @@ class MemoryReplacementFile final : public ReplacementFile {
     }
     Status Commit() override {
         if (Status step = disk_.Step(); !step.Ok()) return step;
+        // only now, so that a test sees the old content when an earlier step fails
         disk_.Contents[path_] = written_;
         return {};
     }
@@ -54,6 +55,7 @@ class MemoryReplacementFile final : public ReplacementFile {
 }  // namespace
 
 Status MemoryFiles::Step() {
+    // counted also when it fails, so that a number always means the same operation
     const int number = Operations++;
     const bool fails = FailAt >= 0 && (number == FailAt || (FailForGood && number > FailAt));
     return fails ? Status(SystemError(EIO)) : Status();
@@ -101,6 +103,7 @@ Status MemoryFiles::Move(const std::string& source, const std::string& target) {
     if (NoMove) return SystemError(EXDEV);
     const auto found = Contents.find(source);
     if (found == Contents.end()) return SystemError(ENOENT);
+    // taken out first: source and target may be the same path
     std::string content = std::move(found->second);
     Contents.erase(found);
     Contents[target] = std::move(content);

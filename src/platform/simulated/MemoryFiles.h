@@ -14,7 +14,8 @@ class MemoryFiles final : public Files {
     std::map<std::string, std::string> Contents;  // path to bytes
     std::set<std::string> Directories = {"/"};
     // The operation of this number (counted from 0 over all that can fail) fails, and so do all
-    // after it when FailForGood is set; none when negative.
+    // after it when FailForGood is set; none when negative. A test can count the operations of a
+    // good run, then repeat it with each of them failing in turn.
     int FailAt = -1;
     bool FailForGood = false;
     // Operations so far that could have failed.

@@ -19,7 +19,8 @@ class ScriptedUserInterface final : public UserInterface {
     std::deque<bool> Answers;      // taken in turn by questions; false when used up
     int RepeatedWanted = 1 << 30;  // how many repeated messages until "no more of these"
     bool Cancelled = false;
-    // Runs at every LetEventsRun.
+    // Runs at every LetEventsRun. Where a test plays what a user does in the middle of long work:
+    // cancel, close, start another load.
     std::function<void()> OnEvents = [] {};
 
     // The texts of all messages shown.
