@@ -5,6 +5,7 @@
 
 namespace brask {
 
+// Has no state. Dialogs are modal; where the desktop has its own they look like that.
 class QtChoosers final : public Choosers {
   public:
     std::optional<QString> FileToOpen(QWidget* parent, const FileQuestion& question) override;
@@ -12,6 +13,7 @@ class QtChoosers final : public Choosers {
 };
 
 // "All Files|*.*|CSV Files|*.csv" in Qt's form, extensions in any letter case.
+// Several patterns of one name are parted by ";". A name without a pattern is left out.
 QString QtFilter(const QString& filter);
 
 }  // namespace brask

@@ -15,6 +15,7 @@ constexpr qint64 kPumpInterval = 10;  // milliseconds
 void Fill(QMessageBox& box, const Message& message) {
     box.setWindowTitle(ToQt(message.Title));
     box.setTextFormat(Qt::PlainText);
+    // lines end with CR LF, and Qt breaks them at the LF alone
     box.setText(ToQt(message.Text).remove(QLatin1Char('\r')));
 }
 
@@ -32,6 +33,7 @@ void QtUserInterface::SetViews(QWidget* window, ProgressView* progress, NoticeVi
 }
 
 QWidget* QtUserInterface::Parent() const {
+    // a box over the main window would lie behind an open dialog, and neither could be answered
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : window_.data();
 }
@@ -45,6 +47,7 @@ void QtUserInterface::ShowMessage(const Message& message) {
 bool QtUserInterface::ShowRepeatedMessage(const Message& message) {
     QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, Parent());
     Fill(box, message);
+    // unchecked in every new box: one answer never silences by mistake
     auto* noMore = new QCheckBox(ToQt(texts_, noMoreMessages_), &box);
     box.setCheckBox(noMore);
     box.exec();
@@ -70,6 +73,7 @@ void QtUserInterface::BeginProgress(ProgressMode mode) {
     // the window is there before the work begins: once to map it, once to paint it
     QApplication::processEvents();
     QApplication::processEvents();
+    // events have just run
     sinceEvents_.restart();
 }
 
@@ -100,6 +104,7 @@ void QtUserInterface::SetWaitCursor(bool waiting) {
 }
 
 void QtUserInterface::LetEventsRun() {
+    // work asks before every line; running events each time would take longer than the work
     if (sinceEvents_.elapsed() < kPumpInterval) return;
     QApplication::processEvents();
     sinceEvents_.restart();
@@ -107,8 +112,10 @@ void QtUserInterface::LetEventsRun() {
 
 void QtUserInterface::EndProgram() {
     if (ended_) return;
+    // first of all: closing the main window asks for the end once more
     ended_ = true;
     QApplication::closeAllWindows();
+    // a window that does not count as closed must not keep the loop alive
     QApplication::quit();
 }
 
