@@ -26,12 +26,15 @@ void Commands::Guard(const std::string& operation, const std::function<void()>& 
     try {
         work();
     } catch (const std::exception& error) {
+        // first of all: work that failed half-way must not leave every command but Exit locked, and
+        // the dialog lets the user go on
         SetBusy(false);
         ShowProgramError(user_, texts_, {operation, error.what(), "", true});
     }
 }
 
 void Commands::ToolbarButtonClick(const std::string& key) {
+    // a key with a row runs through Run, so a button that is enabled too early does no harm
     if (const ToolbarRow* row = FindToolbarRow(key)) {
         Run(row->Command);
         return;
@@ -42,8 +45,10 @@ void Commands::ToolbarButtonClick(const std::string& key) {
 
 bool Commands::Enabled(const std::string& name) const {
     if (!Registered(name) || withheld_.contains(name)) return false;
+    // leaving must always be possible; the work sees it at its next turn for events
     if (busy_) return name == "mnuExit";
     const MenuRow* row = FindMenuRow(name);
+    // commands behind buttons alone have no row; what they need is kept by the button
     return hasReadings_ || row == nullptr || row->Need == CommandNeed::kNothing;
 }
 

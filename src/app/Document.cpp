@@ -29,11 +29,13 @@ void Document::Open(const std::string& path, DataSource source) {
     // from here on events run, and no command may disturb what is half done
     commands_.SetBusy(true);
     session_.Data.Source = source;
+    // absolute, since the list of recent files outlives the directory that the program runs in
     session_.Data.CurrentDataFile = system_.Disk.Absolute(path);
     // the curves look into the arrays that the load re-creates while events run
     plotting_.Plot.Clear();
     view_->ShowChart();
     const std::string title = system_.Words.Find(data_texts::kProgramTitle);
+    // a caption with the old name would stand over readings that are gone
     view_->ShowCaption(title);
 
     const LoadOutcome outcome = Load();
@@ -42,6 +44,7 @@ void Document::Open(const std::string& path, DataSource source) {
     // the windows are closing: there is nobody left to show anything to
     if (system_.User.Ended()) return;
     if (outcome == LoadOutcome::kRead) {
+        // a file without readings is not worth offering again
         recent_.Add(session_.Data.CurrentDataFile);
         BuildPlot();
         view_->ShowCaption(system_.Words.Fill(
@@ -59,6 +62,7 @@ LoadOutcome Document::Load() {
         session_.Data.Recreate(0);
         commands_.SetHasReadings(false);
         view_->ShowReadings();
+        // whoever guards the command tells the user
         throw;
     }
 }
@@ -71,11 +75,13 @@ void Document::RebuildPlot() {
 
 void Document::BuildPlot() {
     PlotOptions options = ReadPlotOptions(session_.Options, session_.Unit);
+    // a layout that could not be stored would come back here as the old one
     options.Layout = layout_;
     plotting_.Builder.Rebuild(options);
 }
 
 void Document::SetTemperatureUnit(bool fahrenheit) {
+    // the readings themselves are converted; saved files are copies and stay in °C
     session_.Options.Save("DisplayTemperatureUnits", fahrenheit ? "1" : "0");
     session_.Unit.SwitchTo(fahrenheit, session_.Data);
     if (session_.Data.ReadingCount > 0) RebuildPlot();
@@ -84,6 +90,7 @@ void Document::SetTemperatureUnit(bool fahrenheit) {
 
 void Document::SetGraphType(GraphType type) {
     layout_ = type;
+    // stored without readings too: the next file opens in this layout
     session_.Options.Save("GraphType", std::to_string(static_cast<int>(type)));
     if (session_.Data.ReadingCount > 0) RebuildPlot();
 }

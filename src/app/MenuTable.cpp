@@ -11,6 +11,8 @@ using enum CommandNeed;
 
 // a table reads best a row a line
 // clang-format off
+// A submenu's row comes before the rows of its items, since the menus are built from top to bottom.
+// Captions are given in full with their letters; one letter is used once in each menu.
 const auto kRows = std::to_array<MenuRow>({
     {"", "mnuFile", TextRow("menu", "&File"), "", kSubmenu, kNothing},
     {"mnuFile", "mnuOpen", TextRow("menu", "&Open Data File On PC…"), "Ctrl+O", kItem, kNothing},
@@ -23,6 +25,7 @@ const auto kRows = std::to_array<MenuRow>({
     {"mnuFile", "mnuFileViewData", TextRow("menu", "&View Data"), "", kItem, kReadings},
     {"mnuFile", "mnuViewHeaders", TextRow("menu", "View &Headers"), "", kItem, kReadings},
     {"mnuFile", "", TextRow("menu", ""), "", kSeparator, kNothing},
+    // enabled without readings: the command then says that there is nothing to save
     {"mnuFile", "mnuSaveDataFile", TextRow("menu", "&Save Data…"), "Ctrl+S", kItem, kNothing},
     {"mnuFile", "mnuExportReadings", TextRow("menu", "&Export Readings…"), "", kItem, kReadings},
     {"mnuFile", "mnuSavePlotAs", TextRow("menu", "Save P&lot…"), "Ctrl+Shift+S", kItem, kReadings},
@@ -44,11 +47,13 @@ const auto kRows = std::to_array<MenuRow>({
     {"mnuEdit", "mnuFindPoint", TextRow("menu", "&Find Point…"), "Ctrl+F", kItem, kReadings},
     {"", "mnuView", TextRow("menu", "&View"), "", kSubmenu, kNothing},
     {"mnuView", "mnuGraphType", TextRow("menu", "&Graph Type"), "", kSubmenu, kNothing},
+    // an option like any other: it can be chosen before there is a file
     {"mnuGraphType", "mnuGraphType_0", TextRow("menu", "&Continuous Graph"), "", kRadio, kNothing},
     {"mnuGraphType", "mnuGraphType_1", TextRow("menu", "Overlap &Days"), "", kRadio, kNothing},
     {"mnuGraphType", "mnuGraphType_2", TextRow("menu", "Overlap &Weeks"), "", kRadio, kNothing},
     {"mnuView", "mnuDisplayPeriod", TextRow("menu", "&Display Period"), "", kSubmenu, kNothing},
     {"mnuDisplayPeriod", "mnuDisplayPeriod_0", TextRow("menu", "Display &All Data"), "", kRadio, kReadings},
+    // no radio mark: it leads to the page where the period is set
     {"mnuDisplayPeriod", "mnuDisplayPeriod_1", TextRow("menu", "&Set Display Period…"), "", kItem, kReadings},
     {"mnuView", "", TextRow("menu", ""), "", kSeparator, kNothing},
     {"mnuView", "mnuZoomIn", TextRow("menu", "Zoom &In"), "Ctrl++", kItem, kReadings},
@@ -73,6 +78,7 @@ const auto kRows = std::to_array<MenuRow>({
     {"mnuView", "", TextRow("menu", ""), "", kSeparator, kNothing},
     {"mnuView", "mnuRefresh", TextRow("menu", "R&e-Plot"), "F5", kItem, kNothing},
     {"", "mnuUpperLimits", TextRow("menu", "&Upper Limits"), "", kSubmenu, kNothing},
+    // the two blanks are wanted: users and their help know the caption so
     {"mnuUpperLimits", "mnuUseToleranceCurves", TextRow("menu", "Upper  Limits &Displayed"), "", kCheck, kNothing},
     {"mnuUpperLimits", "mnuMarkOutOfToleranceInRed", TextRow("menu", "&Mark Out Of Limits with a Wider Line"), "", kCheck, kNothing},
     {"mnuUpperLimits", "", TextRow("menu", ""), "", kSeparator, kNothing},
@@ -80,6 +86,7 @@ const auto kRows = std::to_array<MenuRow>({
     {"", "mnuTextAndComments", TextRow("menu", "&Comments and Bitmaps"), "", kSubmenu, kNothing},
     {"mnuTextAndComments", "mnuAddTextToPlot", TextRow("menu", "Add to &Plot"), "", kItem, kReadings},
     {"mnuTextAndComments", "mnuAddTextToDataPoint", TextRow("menu", "Add to &Data Point"), "", kItem, kReadings},
+    // always enabled, as users know it
     {"mnuTextAndComments", "mnuRemoveTextComment", TextRow("menu", "&Remove Comment or Bitmap"), "", kItem, kNothing},
     {"mnuTextAndComments", "", TextRow("menu", ""), "", kSeparator, kNothing},
     {"mnuTextAndComments", "mnuAnnotateGraph", TextRow("menu", "&Annotate Graph…"), "", kItem, kReadings},

@@ -17,8 +17,11 @@ enum class MenuKind {
     kSeparator,  // a line; has no name
 };
 
+// What must be there before a command makes sense. More than this (a selection, a zoom to undo) is
+// withheld by the command's own part of the program.
 enum class CommandNeed { kNothing, kReadings };
 
+// Commands are registered, and items found, by their names.
 struct MenuRow {
     const char* Menu;      // name of the menu that it stands in; "" for the menu bar
     const char* Name;      // object name
@@ -30,6 +33,7 @@ struct MenuRow {
 
 std::span<const MenuRow> MenuRows();
 // The row of that name; nullptr when there is none.
+// Searches the table from its start: it has some eighty rows.
 const MenuRow* FindMenuRow(std::string_view name);
 
 }  // namespace brask

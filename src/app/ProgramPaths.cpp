@@ -6,6 +6,7 @@ namespace brask {
 
 std::string HelpFilePath(const std::string& programDirectory, char separator) {
     const std::string slash(1, separator);
+    // anywhere in the path: installations lie in a folder of that name, or below it
     const bool installed = ContainsIgnoringCase(programDirectory, "talvex k42 pc");
     const std::string folder =
         installed ? slash + "HtmlHelp" + slash + "brasklite" + slash + "htmlhelp" : "";
@@ -18,6 +19,7 @@ std::string ConnectionText(const std::string& programDirectory, char separator) 
 }
 
 bool SyncSoftwareInstalled(const Files& files) {
+    // other systems have no such directory, and there the answer is no
     return files.IsDirectory("c:\\program files\\Microsoft activesync");
 }
 

@@ -18,6 +18,7 @@ const auto kButtons = std::to_array<ToolbarRow>({
     // prints without the printer dialog that the menu item shows first
     {"Print Plot", TextRow("toolbar", "Print Plot"), "Print", "PrintPlotAtOnce", "mnuPrint"},
     kSeparator,
+    // follows no menu item: its state stays as it was made
     {"CenterDot", TextRow("toolbar", "Center Selected Point In Graph"), "CenterDot", "mnuCenterDot", ""},
     {"SwitchActiveYAxis", TextRow("toolbar", "Set Active Y Axis"), "SwitchActiveYAxis", "mnuSwitchActiveYAxis", "mnuSwitchActiveYAxis"},
     kSeparator,
@@ -34,6 +35,7 @@ const auto kButtons = std::to_array<ToolbarRow>({
     {"Tolerance", TextRow("toolbar", "Show Out of Limit Data Points"), "Tolerance", "mnuUseToleranceCurves", "mnuMarkOutOfToleranceInRed"},
     {"Refresh", TextRow("toolbar", "Re-Plot"), "Refresh", "mnuRefresh", ""},
 });
+// Known to the dispatcher already: to get its button a row needs a picture and a place above.
 const auto kWithoutButton = std::to_array<ToolbarRow>({
     {"Markers", TextRow("toolbar", "Mark Individual Data Points"), "", "mnuMarkDataPoints", "mnuMarkDataPoints"},
     {"UpBig", TextRow("toolbar", "Up Fast"), "", "mnuMoveViewingAreaUpFast", "mnuMoveViewingAreaUpFast"},
@@ -51,6 +53,7 @@ std::span<const ToolbarRow> ToolbarKeysWithoutButton() { return kWithoutButton; 
 
 const ToolbarRow* FindToolbarRow(std::string_view key) {
     if (key.empty()) return nullptr;
+    // exact comparison: keys are the program's own, not typed by anybody
     for (const auto rows : {ToolbarButtons(), ToolbarKeysWithoutButton()}) {
         for (const ToolbarRow& row : rows) {
             if (row.Key == key) return &row;

@@ -11,6 +11,8 @@ namespace brask {
 namespace {
 
 constexpr std::int64_t kDay = 86400;
+// Steps that people count time in. They are multiples from serial 0 on, so a tick keeps its place
+// while the view moves over it.
 constexpr auto kSecondSteps = std::to_array<std::int64_t>(
     {1,    2,    5,    10,    15,    30,    60,   120,      300,      600,      900,
      1800, 3600, 7200, 10800, 21600, 43200, kDay, 2 * kDay, 7 * kDay, 14 * kDay});
@@ -50,6 +52,8 @@ std::vector<double> TicksAt(std::int64_t first, std::int64_t last, const Functio
     for (std::int64_t step = first; step <= last; ++step) {
         const std::int64_t second = secondOf(step);
         const std::int64_t day = FloorDivide(second, kDay);
+        // put together as the stamps of readings are, day and fraction apart: a tick at the moment
+        // of a reading is then the same double and lies exactly on it
         ticks.push_back(static_cast<double>(day) +
                         static_cast<double>(second - day * kDay) / kSecondsPerDay);
     }
@@ -79,6 +83,7 @@ std::vector<double> DateTicks(const AxisRange& range, std::size_t most) {
         if (last - first >= limit) continue;
         return TicksAt(first, last, [step](std::int64_t n) { return n * step; });
     }
+    // months have no fixed length in seconds, so from here on steps are counted in months
     for (const std::int64_t step : kMonthSteps) {
         std::int64_t firstMonth = MonthOf(begin);
         if (SecondOfMonth(firstMonth) < begin) ++firstMonth;

@@ -10,6 +10,8 @@ namespace {
 // Where "temp" begins in any letter case; npos when it does not occur.
 std::size_t FindTemp(const std::string& name) {
     constexpr std::string_view kTemp = "temp";
+    // Letters are folded by hand: the C library's tolower follows the locale in force, and a file
+    // must be read alike everywhere.
     const auto same = [](char a, char b) {
         return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
     };

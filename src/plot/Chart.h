@@ -18,6 +18,8 @@ enum class LineStyle { kSolid, kDotted };
 // The component's own codes.
 enum class CurveStyle { kLine = 0, kPoint = 2, kLineWithMarkers = 8 };
 
+// The two ends in the axis's own values: serials, hours or days on X, ppm on the left, the
+// temperature's unit on the right. Nothing is promised about their order.
 struct AxisRange {
     double Minimum = 0;
     double Maximum = 1;
@@ -36,6 +38,7 @@ class ChartAxisScale {
     bool SetMinimum(double minimum);
     bool SetMaximum(double maximum);
 
+    // The axis does not look at these two; whoever builds the plot sets them.
     std::string Title;  // UTF-8, lines joined by CR LF
     ColorValue Color;   // of its labels and title
 
@@ -43,6 +46,8 @@ class ChartAxisScale {
     AxisRange range_;
 };
 
+// One tick of the X axis. Positions outside the range in view are passed over, so a table serves
+// every zoom.
 struct TickLabel {
     double Position = 0;
     std::string Text;
@@ -62,8 +67,12 @@ struct MarkerStyle {
 
 // One curve. X and Y are shared: spans into arrays that somebody else owns and that stay until the
 // curves are cleared, or into OwnX and OwnY.
+// Copying a curve is cheap: no reading is copied with it.
 struct Curve {
+    // Read back by IsTemperatureCurve and PeriodName, and thus never translated.
     std::string Name;
+    // Of equal length, in the order of the file; X may run backwards, and either may hold values
+    // that are not finite, which are not drawn.
     std::span<const double> X;
     std::span<const double> Y;
     std::shared_ptr<const std::vector<double>> OwnX;  // keep X and Y alive when the curve has
@@ -78,6 +87,7 @@ struct Curve {
     MarkerStyle Marker;
 };
 
+// The two lines above the axes, both UTF-8.
 struct TitleBlock {
     std::string FontName = "arial";
     int FontSize = 15;  // points
@@ -85,6 +95,7 @@ struct TitleBlock {
     std::string Caption;  // the second line
 };
 
+// What lies behind the curves. A picture that cannot be read leaves the colours alone.
 struct ChartBackground {
     std::string PictureFile;  // empty for none
     bool Stretched = true;
@@ -93,6 +104,8 @@ struct ChartBackground {
     ColorValue Title = kBlack;   // the title's letters
 };
 
+// The state that is drawn. It sends no signals: whoever changes it asks the drawing widget to take
+// it over. One exists for the whole run, and everybody holds references to it.
 class Chart {
   public:
     // Removes all curves and the title, and sets the axes back to 0..1 without titles and labels.
@@ -100,7 +113,10 @@ class Chart {
     void Clear();
     // Removes the curves alone: before the arrays that they show go away.
     void RemoveCurves();
+    // Draws in the order of adding: later curves lie over earlier ones. Pyramids must be set, and
+    // their values must not change any more.
     void AddCurve(Curve curve) { curves_.push_back(std::move(curve)); }
+    // Valid until curves are added or removed.
     std::span<const Curve> Curves() const { return curves_; }
 
     ChartAxisScale X;
@@ -111,6 +127,7 @@ class Chart {
     ChartBackground Background;
     std::string Readout;  // the line about the selected point
 
+    // The value axis that the curve is drawn against.
     const ChartAxisScale& AxisOf(const Curve& curve) const {
         return curve.Axis == ChartAxis::kLeft ? Y : Y1;
     }

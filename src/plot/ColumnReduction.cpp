@@ -30,6 +30,10 @@ class RunCollector {
     std::optional<ColumnRun> pending_;
 };
 
+// Goes down the pyramids from the one block at the top, first child first, so that runs come out in
+// the order of the file. A block that lies in one column is taken whole; only those across a border
+// are opened. Nothing relies on times that go forward: a file whose clock was set back is merely
+// opened in more places.
 class Descent {
   public:
     Descent(const Curve& curve, const ColumnGrid& grid, RunCollector& runs)
@@ -50,8 +54,11 @@ class Descent {
         const std::size_t last = std::min(first + span, curve_.X.size()) - 1;
         const ValueRange& x = xLevels_[level][block];
         const ValueRange& y = yLevels_[level][block];
+        // no reading here can be drawn
         if (x.Empty() || y.Empty()) return true;
         const int column = grid_.ColumnOf(x.Minimum);
+        // the ends of a run are drawn as points and must have values; blocks with bad ends are
+        // rare, and going down finds better ones
         if (column == grid_.ColumnOf(x.Maximum) && Finite(first) && Finite(last)) {
             return runs_.Add({column, first, last, y});
         }

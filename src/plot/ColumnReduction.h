@@ -17,7 +17,10 @@ struct ColumnGrid {
     int Count = 1;
     double ColumnWidth = 1;  // pixels
 
+    // The column of an X value, -1 or Count for what lies beside the grid. The value must be
+    // finite.
     int ColumnOf(double x) const;
+    // False for the two outer columns, which have no width of their own.
     bool Inside(int column) const { return column >= 0 && column < Count; }
 };
 
@@ -29,6 +32,7 @@ struct ColumnRun {
     std::size_t Last = 0;
     ValueRange Y;
 
+    // Counts readings that are not finite too: a bound, good enough to tell dense from sparse.
     std::size_t Readings() const { return Last - First + 1; }
 };
 
@@ -36,6 +40,8 @@ struct ColumnRun {
 using RunSink = std::function<bool(const ColumnRun&)>;
 
 // Neighbouring runs lie in different columns. Readings that are not finite belong to no run.
+// Costs some blocks per column border that the curve crosses, whatever its length, as long as its
+// times go forward. Curve and grid must stay as they are during the call.
 void ForEachColumnRun(const Curve& curve, const ColumnGrid& grid, const RunSink& sink);
 
 }  // namespace brask

@@ -26,6 +26,7 @@ ValueRange RangeOfFullBlock(std::span<const double, CurvePyramid::kBlock> values
     high = low;
     for (std::size_t i = 0; i < values.size(); i += kLanes) {
         for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            // plain comparisons: a test for finite values in here would keep the loop scalar
             const double value = values[i + lane];
             low[lane] = value < low[lane] ? value : low[lane];
             high[lane] = value > high[lane] ? value : high[lane];
@@ -34,6 +35,7 @@ ValueRange RangeOfFullBlock(std::span<const double, CurvePyramid::kBlock> values
     }
     double sum = 0;
     for (const double lane : check) sum += lane;
+    // asked this way round because a sum that is not a number equals nothing
     if (!(sum == 0.0)) return RangeOfAny(values);
     return {*std::min_element(low.begin(), low.end()), *std::max_element(high.begin(), high.end())};
 }
@@ -49,6 +51,7 @@ CurvePyramid::CurvePyramid(std::span<const double> values) {
         blocks = Blocks(blocks, kFanOut);
         total += blocks;
     }
+    // exact: there are up to hundreds of pyramids, and growing could leave each half empty
     blocks_.reserve(total);
 
     std::size_t done = 0;

@@ -15,6 +15,7 @@ struct ValueRange {
     double Minimum = std::numeric_limits<double>::infinity();
     double Maximum = -std::numeric_limits<double>::infinity();
 
+    // True also of a block of readings that are all infinite or not a number.
     bool Empty() const { return Minimum > Maximum; }
     void Add(const ValueRange& other) {
         if (other.Minimum < Minimum) Minimum = other.Minimum;
@@ -28,14 +29,19 @@ struct ValueRange {
 class CurvePyramid {
   public:
     // Readings in a block of the lowest level, and blocks of one level in a block of the next.
+    // With these the levels take less than a third of a byte per value, and a descent looks at no
+    // more than 64 readings at each column border.
     static constexpr std::size_t kBlock = 64;
     static constexpr std::size_t kFanOut = 8;
 
+    // Of an empty curve.
     CurvePyramid() = default;
     // One pass over the values, which are not kept: it holds for as long as they stay unchanged.
     explicit CurvePyramid(std::span<const double> values);
 
     // Number of levels; 0 for an empty curve. Level 0 is the finest, the last is one block.
+    // Two pyramids over arrays of equal length have the same levels and blocks, so X and Y of a
+    // curve can be walked side by side.
     std::size_t Levels() const { return levels_; }
     // The blocks of one level in order; block i covers values i * Span(level) and on.
     std::span<const ValueRange> Level(std::size_t level) const;

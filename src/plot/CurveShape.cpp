@@ -25,6 +25,8 @@ class ShapeBuilder {
     }
 
     CurveShape Build() {
+        // the question is asked in columns of one pixel, before dots make them wider: line style
+        // must not decide whether a curve is dense
         shape_.Dense = IsDense();
         if (shape_.Dense && curve_.Line == LineStyle::kDotted) SetColumns(kDotDistance);
         ForEachColumnRun(curve_, grid_, [this](const ColumnRun& run) {
@@ -46,6 +48,7 @@ class ShapeBuilder {
         const std::size_t most = kSparsePerColumn * static_cast<std::size_t>(grid_.Count);
         ForEachColumnRun(curve_, grid_, [&](const ColumnRun& run) {
             if (grid_.Inside(run.Column)) inView += run.Readings();
+            // enough is known: a dense curve is not counted to its end
             return inView <= most;
         });
         return inView > most;
@@ -56,6 +59,8 @@ class ShapeBuilder {
     }
 
     void AddSparse(const ColumnRun& run) {
+        // readings on one side of the view cannot draw a line through it: only where the curve
+        // leaves and where it comes back matters
         if (!grid_.Inside(run.Column)) {
             AddPoint(PointOf(run.First), false);
             if (run.Last != run.First) AddPoint(PointOf(run.Last), false);
@@ -78,6 +83,8 @@ class ShapeBuilder {
         const bool touches = last_ && std::abs(run.Column - lastColumn_) == 1 &&
                              grid_.Inside(run.Column) && grid_.Inside(lastColumn_);
         const PixelPoint first = PointOf(run.First);
+        // Neighbouring columns are joined by drawing the span longer. A line between them would be
+        // one more stroke of the pen per pixel, and strokes are what costs time.
         if (last_ && !touches) AddLine({*last_, first});
         if (grid_.Inside(run.Column)) {
             const auto [top, bottom] =
@@ -101,6 +108,7 @@ class ShapeBuilder {
     }
 
     void AddSpan(int column, double top, double bottom) {
+        // a spike of 1e300 must not reach the painter, which counts in integers
         const double highest = view_.Rect().Top - kMargin;
         const double lowest = view_.Rect().Top + view_.Rect().Height + kMargin;
         if (bottom < highest || top > lowest) return;
@@ -110,6 +118,8 @@ class ShapeBuilder {
             shape_.Spans.push_back({PixelOf(column), top, bottom});
             return;
         }
+        // one span per column from here on: it covers all that further passes over the view can
+        // add, and painting stays bounded
         filled_.resize(static_cast<std::size_t>(grid_.Count));
         filled_[static_cast<std::size_t>(column)].Add({top, bottom});
     }
@@ -126,6 +136,7 @@ class ShapeBuilder {
     void AddColumnMarkers(int column, double top, double bottom) {
         const double x = PixelOf(column) + 0.5;
         AddMarker({x, top});
+        // a second marker closer than a pixel would only hide the first
         if (bottom - top >= 1) AddMarker({x, bottom});
     }
 
@@ -150,6 +161,8 @@ class ShapeBuilder {
 
 void PixelPolylines::Add(const PixelLine& line) {
     const bool continues =
+        // Exact comparison is meant: both ends come from the same reading, and a line that was cut
+        // at the edge ends the polyline there.
         !points_.empty() && points_.back().X == line.From.X && points_.back().Y == line.From.Y;
     if (!continues) {
         begins_.push_back(points_.size());

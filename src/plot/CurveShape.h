@@ -12,6 +12,8 @@
 namespace brask {
 
 // One pixel wide, from Top down to Bottom.
+// What a column shows of a dense curve. X is a whole pixel; Top and Bottom are kept within a few
+// pixels of the view, so that painting may turn them into integers.
 struct PixelSpan {
     int X = 0;
     double Top = 0;
@@ -25,7 +27,9 @@ class PixelPolylines {
     void Add(const PixelLine& line);
 
     std::size_t Count() const { return begins_.size(); }
+    // At least two points. Valid until the next Add.
     std::span<const PixelPoint> operator[](std::size_t index) const;
+    // Of all polylines together: what painting them costs.
     std::size_t Points() const { return points_.size(); }
 
   private:
@@ -46,6 +50,8 @@ struct CurveShape {
 };
 
 // Lines reach from reading to reading, also to and between readings outside the view.
+// A curve whose times leap to and fro yields a bounded number of lines, spans and markers too. The
+// view is only used during the call.
 CurveShape ShapeOf(const Curve& curve, const PixelView& view);
 
 }  // namespace brask

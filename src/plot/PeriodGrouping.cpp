@@ -33,6 +33,8 @@ class DayCursor {
     // Fraction of the day, 0 to below 1.
     double TimeOfDay(double time) const {
         const double fraction = time - start_;
+        // A stamp in a day's last half second is shown as the next midnight and lies before the day
+        // that it counts to; one beyond the calendar's ends lies outside its day too.
         return fraction >= 0 && fraction < 1 ? fraction : 0;
     }
 
@@ -53,6 +55,8 @@ class ShortDates {
   public:
     explicit ShortDates(const UserLocale& locale) : locale_(locale) {}
 
+    // Asked once per run of readings: writing a date in the system's form is far slower than
+    // comparing serials.
     std::size_t NumberOf(std::int64_t day) {
         const auto known = ofDay_.find(day);
         if (known != ofDay_.end()) return known->second;
@@ -105,11 +109,14 @@ void CollectDays(const std::vector<DateRun>& runs, std::int32_t readings, Period
     std::int64_t next = 0;
     std::size_t at = 0;
     while (next < readings) {
+        // `next` only grows, so this walks over the runs once in all
         while (runs[at].Run.First + runs[at].Run.Count <= next) ++at;
         PeriodGrouping::Period period{result.Runs.size(), 0};
         const auto start = static_cast<std::int32_t>(next);
         for (std::size_t i = at; i != kNone; i = runs[i].NextOfDate) {
             ReadingRun run = runs[i].Run;
+            // a period may start in the middle of a run, after earlier ones took readings of other
+            // runs
             if (i == at) run = {start, run.First + run.Count - start};
             result.Runs.push_back(run);
             next += run.Count;
@@ -148,7 +155,10 @@ PeriodGrouping GroupByWeek(std::span<const double> times, int startWeekOn) {
     std::int64_t weekEnd = INT64_MIN;
     for (std::size_t i = 0; i < times.size(); ++i) {
         if (cursor.MoveTo(times[i])) {
+            // days within a week follow the reading's own date, even when it lies in an earlier
+            // week: the curve then runs back and forth, and shows that the clock did
             offset = DayOffset(cursor.Day(), startWeekOn);
+            // only forward: a clock that was set back does not begin a week that has been before
             if (cursor.Day() >= weekEnd) {
                 weekEnd = cursor.Day() - static_cast<std::int64_t>(offset) + 7;
                 result.Periods.push_back({result.Runs.size(), 1});

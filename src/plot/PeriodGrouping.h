@@ -20,6 +20,7 @@ struct ReadingRun {
 
 // The periods in the order in which they are drawn. Periods are runs of readings; nearly always
 // one run each.
+// A grouping of an empty data set has no periods, and X is empty but never null.
 struct PeriodGrouping {
     struct Period {
         std::size_t FirstRun = 0;  // in Runs
@@ -32,6 +33,7 @@ struct PeriodGrouping {
     // the first day of its own week in weeks.
     std::shared_ptr<const std::vector<double>> X;
 
+    // In the order of the file. Valid while the grouping lives.
     std::span<const ReadingRun> RunsOf(const Period& period) const {
         return std::span(Runs).subspan(period.FirstRun, period.RunCount);
     }

@@ -53,6 +53,7 @@ AxisRange DrawableRange(const AxisRange& range, double halfWidth) {
     }
     if (high - low >= least) return {low, high};
     const double middle = low + (high - low) / 2;
+    // around the middle, so that zooming in as far as it goes does not drift sideways
     return {middle - least / 2, middle + least / 2};
 }
 
@@ -80,6 +81,8 @@ std::optional<PixelLine> PixelView::Clip(const PixelLine& line, double margin) c
         return PixelPoint{line.From.X + (line.To.X - line.From.X) * share,
                           line.From.Y + (line.To.Y - line.From.Y) * share};
     };
+    // ends that were not cut are passed on as they are, bit for bit: the next line begins at the
+    // same point and joins on
     return PixelLine{cut.Begin > 0 ? at(cut.Begin) : line.From,
                      cut.End < 1 ? at(cut.End) : line.To};
 }

@@ -26,6 +26,7 @@ AxisRange DrawableRange(const AxisRange& range, double halfWidth);
 inline constexpr double kDateHalfWidth = 30.0 / 86400.0;
 inline constexpr double kNumberHalfWidth = 0.5;
 
+// The inside of the axes, in the widget's pixels.
 struct PixelRect {
     double Left = 0;
     double Top = 0;
@@ -37,14 +38,18 @@ struct PixelRect {
 // bottom: what an axis with its minimum above its maximum asks for.
 class PixelView {
   public:
+    // Keeps copies of all three.
     PixelView(const PixelRect& rect, const AxisRange& x, const AxisRange& y);
 
+    // Turn an axis round; curves then run the other way, and nothing else changes.
     void ReverseX() { reversedX_ = true; }
     void ReverseY() { reversedY_ = true; }
 
     // Positions are bounded, so that nothing that is done with them overflows.
+    // Fractions of a pixel are kept: rounding is up to what is painted.
     double PixelX(double x) const;
     double PixelY(double y) const;
+    // As it was given, without any margin.
     const PixelRect& Rect() const { return rect_; }
     // The part of a line that lies within the rectangle and `margin` pixels around it; nothing when
     // it passes by.

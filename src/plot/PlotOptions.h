@@ -11,6 +11,7 @@
 
 namespace brask {
 
+// The numbers are those that are stored, and those of the option buttons.
 enum class GraphType { kContinuous = 0, kOverlapDays = 1, kOverlapWeeks = 2 };
 
 // The choices as they stand now.

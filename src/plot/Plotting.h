@@ -6,6 +6,7 @@
 
 namespace brask {
 
+// Both live as long as main does; only main and the main window take the whole.
 struct Plotting {
     Chart& Plot;
     PlotBuilder& Builder;

@@ -28,6 +28,7 @@ DataPage::DataPage(const DataSet& readings, const TemperatureUnit& unit, const T
     MSFlexGrid1->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     MSFlexGrid1->verticalHeader()->setDefaultSectionSize(MSFlexGrid1->fontMetrics().height() + 6);
     MSFlexGrid1->horizontalHeader()->setStretchLastSection(true);
+    // widths in digits of the font in use: rows hold mostly digits, and fonts differ
     const int digit = MSFlexGrid1->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     MSFlexGrid1->setColumnWidth(0, 10 * digit);
     MSFlexGrid1->setColumnWidth(1, 24 * digit);
@@ -60,12 +61,14 @@ void DataPage::LetGo() { model_->LetGo(); }
 
 void DataPage::MarkStale() {
     stale_ = true;
+    // a hidden page waits: most loads are looked at as a plot
     if (isVisible()) Visit();
 }
 
 void DataPage::Visit() {
     if (stale_) model_->TakeReadings();
     stale_ = false;
+    // at every visit: the count may have changed while the page was hidden
     lblGridCount->setText(
         ToQt(texts_.Fill(app_texts::kGridCount, {std::to_string(data_.ReadingCount)})));
 }

@@ -19,6 +19,7 @@ FileCommands::FileCommands(const System& system, const FileCommandParts& parts, 
 }
 
 void FileCommands::OpenFile(const QString& path) {
+    // drops and recent files come here without a menu command around them, and need the guard too
     parts_.Registry.Guard("mnuOpen",
                           [&] { parts_.Shown.Open(FromQt(path), DataSource::kDiskFile); });
 }
@@ -27,6 +28,7 @@ void FileCommands::mnuOpen_Click() {
     const auto path = parts_.Choose.FileToOpen(
         &window_, {ToQt(system_.Words, kOpenTitle), ToQt(system_.Words, kOpenFilter),
                    ToQt(parts_.Directories.DataRootDir()), QString()});
+    // the guard within the guard of the command is harmless: the inner one ends what goes wrong
     if (path) OpenFile(*path);
 }
 

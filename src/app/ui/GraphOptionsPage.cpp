@@ -13,6 +13,7 @@ using namespace option_texts;
 
 namespace {
 
+// The boxes are made as wide as these texts in the font in use.
 constexpr const char* kWidestDate = "30-Mmm-2000 00:00:00";
 constexpr const char* kWidestTime = "00:00 MM";
 
@@ -35,8 +36,10 @@ GraphOptionsPage::GraphOptionsPage(const Texts& texts, const UserLocale& locale,
     auto* columns = new QHBoxLayout(frameGraphOptions);
     columns->addWidget(BuildLayoutColumn(locale), 2);
     columns->addWidget(BuildDrawingColumn(), 2);
+    // half of the width for the colours: their table has three columns of its own
     columns->addWidget(colors, 4);
     setWidget(frameGraphOptions);
+    // the controls take the width that there is, and scroll only below their least size
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
 }
@@ -45,9 +48,12 @@ QWidget* GraphOptionsPage::BuildLayoutColumn(const UserLocale& locale) {
     QGroupBox* const type = controls_.Frame(kGraphType);
     optGraph = controls_.Options("optGraph", type, {kContinuousGraph, kOverlapDays, kOverlapWeeks},
                                  Available::kYes);
+    // idClicked and not idToggled, here and below: only clicks are sent, never what the program
+    // sets itself
     connect(optGraph, &QButtonGroup::idClicked, this, &GraphOptionsPage::GraphTypeChosen);
 
     QGroupBox* const week = controls_.Frame(kWeekStartsOn);
+    // made by hand: the captions are the locale's words and stand in no table of texts
     optStartWeek = new QButtonGroup(this);
     optStartWeek->setObjectName(QStringLiteral("optStartWeek"));
     for (int day = 0; day < 2; ++day) {
@@ -78,10 +84,12 @@ QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
     optPeriodDisplay = controls_.Options(
         "optPeriodDisplay", frame, {kDisplayAllData, kDisplayDates, kDisplayTimes, kDisplayDays},
         Available::kLater);
+    // a new start always shows all data; the period is not stored
     optPeriodDisplay->button(0)->setChecked(true);
     const auto text = [frame](const char* name, const char* widest) {
         auto* box = new QLineEdit(frame);
         box->setObjectName(QString::fromLatin1(name));
+        // the frame of the box takes some room beside the text
         const int margins = 2 * box->fontMetrics().averageCharWidth();
         box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QString::fromLatin1(widest)) +
                              margins);
@@ -113,6 +121,8 @@ QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
         row->addWidget(boxes[option - 1][0], 1);
         row->addWidget(new QLabel(ToQt(texts_, kTo), frame));
         row->addWidget(boxes[option - 1][1], 1);
+        // the four buttons stand in the layout already; each row goes in behind its button and
+        // moves the others down by one
         layout->insertLayout(2 * option, row);
     }
     auto* lblPeriod = new QLabel(frame);
@@ -166,6 +176,7 @@ QGroupBox* GraphOptionsPage::BuildGraphColors() {
     int line = 0;
     for (const auto& row : rows) {
         QPushButton* const button = controls_.Button(row.Name, QString());
+        // a button that is a field of colour has no caption to be read out
         button->setAccessibleName(ToQt(texts_, row.Label));
         button->setFixedWidth(72);
         grid->addWidget(new QLabel(ToQt(texts_, row.Label), frame), line, 0);
@@ -190,6 +201,7 @@ QGroupBox* GraphOptionsPage::BuildLineColors() {
     MSFlexGridColors->verticalHeader()->hide();
     MSFlexGridColors->horizontalHeader()->setStretchLastSection(true);
     MSFlexGridColors->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // a selected row would hide its colour
     MSFlexGridColors->setSelectionMode(QAbstractItemView::NoSelection);
     MSFlexGridColors->setColumnWidth(0, 44);
     MSFlexGridColors->setColumnWidth(1, 80);
@@ -203,6 +215,8 @@ QGroupBox* GraphOptionsPage::BuildLineColors() {
                                                      {"cmdDeleteColor", kDeleteColor}};
     int place = 0;
     for (const auto& edit : edits) {
+        // "1" is the colour in the clipboard at start; the captions follow it once colours can be
+        // edited
         buttons->addWidget(controls_.Button(edit.first, ToQt(texts_.Fill(edit.second, {"1"}))),
                            place / 2, place % 2);
         ++place;
@@ -245,6 +259,7 @@ void GraphOptionsPage::ShowOptions(const ProgramOptions& options) {
     ChooseOption(optGraph, options.GraphType);
     ChooseOption(optStartWeek, options.StartWeekOn);
     cmbDisplayDayStart->setCurrentIndex(options.StartViewDayOn);
+    // the last entry: the end day is none of the options that are read at start
     cmbDisplayDayEnd->setCurrentIndex(6);
     chkFlagDataPoints->setChecked(options.UseDataMarkers);
     chkChangeYScales->setChecked(options.ScaleYAxisOnZoom);
@@ -261,6 +276,7 @@ void GraphOptionsPage::ShowColors(const PlotColors& colors) {
         const ColorValue color = colors.CurveColor(row + 1);
         auto* sample = new QTableWidgetItem;
         sample->setBackground(ToQtColor(color));
+        // the table owns its items and deletes those that they replace
         MSFlexGridColors->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
         MSFlexGridColors->setItem(row, 1, new QTableWidgetItem(ToQt(ColorToRgbText(color))));
         MSFlexGridColors->setItem(row, 2, sample);

@@ -17,29 +17,38 @@
 
 namespace brask {
 
+// The page decides nothing: it shows what it is told and says what was clicked. Small windows
+// scroll it.
 class GraphOptionsPage final : public QScrollArea {
     Q_OBJECT
 
   public:
+    // The locale is only read while the page is made.
     GraphOptionsPage(const Texts& texts, const UserLocale& locale, QWidget* parent);
 
     // Sets every control from the stored options; sends no signal.
     void ShowOptions(const ProgramOptions& options);
     // Lists the line colours with their numbers and samples.
+    // From 1, as curves are counted; the editor's clipboard begins with the first colour.
     void ShowColors(const PlotColors& colors);
     // Marks a layout that was chosen elsewhere.
+    // An index without a button leaves none marked.
     void ShowGraphType(int index) { ChooseOption(optGraph, index); }
     // The period boxes follow a continuous rebuild: the X range in date form.
+    // Both in the form that the boxes will be read in, "dd-mmm-yyyy hh:mm:ss".
     void ShowPeriod(const QString& start, const QString& end);
 
   signals:
     // By the user's click.
+    // Never sent by the Show functions. A click on the button that is marked already sends them
+    // too; whoever listens must bear that. The index is that of GraphType.
     void GraphTypeChosen(int index);
     void TemperatureUnitChosen(bool fahrenheit);
 
   private:
     // The three columns, left to right, and their larger frames.
     QWidget* BuildLayoutColumn(const UserLocale& locale);
+    // Four options, three of them with a pair of boxes.
     QGroupBox* BuildPeriodFrame(const UserLocale& locale);
     QWidget* BuildDrawingColumn();
     QGroupBox* BuildGraphColors();
@@ -49,8 +58,12 @@ class GraphOptionsPage final : public QScrollArea {
     void ShowClipboard(int number, ColorValue color);
 
     const Texts& texts_;
+    // Everything stands on this widget, which the scroll area moves.
     QWidget* frameGraphOptions;
+    // Must follow the widget that it fills.
     OptionControls controls_;
+    // The controls, under the names that users' help and tests know. All belong to the page. Left
+    // column:
     QButtonGroup* optGraph = nullptr;
     QButtonGroup* optPeriodDisplay = nullptr;
     QLineEdit* txtStartUserDisplayPeriod = nullptr;
@@ -59,14 +72,18 @@ class GraphOptionsPage final : public QScrollArea {
     QLineEdit* txtEndUserDisplayTime = nullptr;
     QComboBox* cmbDisplayDayStart = nullptr;
     QComboBox* cmbDisplayDayEnd = nullptr;
+    // Button 0 is Sunday, 1 Monday.
     QButtonGroup* optStartWeek = nullptr;
+    // Button 0 is °F, 1 is °C: the other way round than stored.
     QButtonGroup* optTemperatureDisplay = nullptr;
+    // Middle column:
     QButtonGroup* optCursorType = nullptr;
     QCheckBox* chkDisplayUpperLimits = nullptr;
     QCheckBox* chkMarkLimitsWiderLine = nullptr;
     QCheckBox* chkFlagDataPoints = nullptr;
     QCheckBox* chkChangeYScales = nullptr;
     QCheckBox* chkScaleGraph = nullptr;
+    // Right column:
     QCheckBox* chkXYLabelColors = nullptr;
     QTableWidget* MSFlexGridColors = nullptr;
     QLabel* ShapeClipboard = nullptr;

@@ -12,6 +12,7 @@
 namespace brask {
 namespace {
 
+// Ties a large button to its row of the toolbar's table, where its tip, picture and command stand.
 constexpr const char* kKeyProperty = "toolbarKey";
 
 }  // namespace
@@ -23,6 +24,7 @@ GraphPage::GraphPage(const Chart& chart, const UserLocale& locale, const Texts& 
     frameGraph = BuildPlot(chart, locale);
     addWidget(frameCommandEnabled);
     addWidget(frameGraph);
+    // only now, since both go through the buttons that were made above
     DrawIcons();
     SyncEnabled();
 }
@@ -31,6 +33,7 @@ QWidget* GraphPage::BuildAdvice() {
     auto* frame = new QWidget(this);
     frame->setObjectName(QStringLiteral("frameCommandEnabled"));
     auto* title = new QLabel(ToQt(texts_, app_texts::kAdviceTitle), frame);
+    // relative to the font in use: users who need large letters have set them
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.5);
     title->setFont(large);
@@ -49,6 +52,7 @@ QWidget* GraphPage::BuildAdvice() {
     recentList_->setSpacing(2);
 
     auto* column = new QVBoxLayout;
+    // a little above the middle, where the eye looks first
     column->addStretch(2);
     column->addWidget(title);
     column->addWidget(advice);
@@ -72,6 +76,7 @@ QPushButton* GraphPage::LargeButton(const char* name, const char* key) {
     button->setIconSize({32, 32});
     button->setMinimumHeight(56);
     connect(button, &QPushButton::clicked, this,
+            // keys are literals and outlive the button
             [this, key] { commands_.ToolbarButtonClick(key); });
     largeButtons_.append(button);
     return button;
@@ -84,6 +89,7 @@ QWidget* GraphPage::BuildPlot(const Chart& chart, const UserLocale& locale) {
     DynaPlot1->setObjectName(QStringLiteral("DynaPlot1"));
     Scroll1 = new QScrollBar(Qt::Horizontal, frame);
     Scroll1->setObjectName(QStringLiteral("Scroll1"));
+    // present and disabled, as everything whose work is yet to come
     Scroll1->setEnabled(false);
 
     auto* lblFindPoint = new QLabel(ToQt(texts_, app_texts::kFindLabel), frame);
@@ -92,6 +98,7 @@ QWidget* GraphPage::BuildPlot(const Chart& chart, const UserLocale& locale) {
     txtFindPoint->setObjectName(QStringLiteral("txtFindPoint"));
     txtFindPoint->setMaximumWidth(220);
     txtFindPoint->setEnabled(false);
+    // the label's letter leads into the box
     lblFindPoint->setBuddy(txtFindPoint);
     cmdFindPoint = new QPushButton(ToQt(texts_, app_texts::kFindPoint), frame);
     cmdFindPoint->setObjectName(QStringLiteral("cmdFindPoint"));
@@ -104,6 +111,7 @@ QWidget* GraphPage::BuildPlot(const Chart& chart, const UserLocale& locale) {
     row->addStretch();
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(6, 6, 6, 6);
+    // the plot alone grows with the window
     layout->addWidget(DynaPlot1, 1);
     layout->addWidget(Scroll1);
     layout->addLayout(row);
@@ -126,12 +134,14 @@ void GraphPage::SyncEnabled() {
 void GraphPage::ShowRecentFiles(const QStringList& paths,
                                 const std::function<void(QString)>& open) {
     while (QLayoutItem* item = recentList_->takeAt(0)) {
+        // not at once: one of these buttons may be in the middle of its click
         item->widget()->deleteLater();
         delete item;
     }
     lblRecent->setVisible(!paths.isEmpty());
     for (const QString& path : paths) {
         auto* link = new QPushButton(
+            // a lone "&" would be taken for the mark of a letter
             QFileInfo(path).fileName().replace(QStringLiteral("&"), QStringLiteral("&&")),
             frameCommandEnabled);
         link->setFlat(true);
@@ -151,6 +161,7 @@ void GraphPage::DrawIcons() {
 
 void GraphPage::changeEvent(QEvent* event) {
     QStackedWidget::changeEvent(event);
+    // there is no signal for a change between light and dark: the palette tells
     if (event->type() == QEvent::PaletteChange) DrawIcons();
 }
 

@@ -18,21 +18,28 @@
 
 namespace brask {
 
+// Makes and owns the one plot widget.
 class GraphPage final : public QStackedWidget {
   public:
+    // All references must outlive the page. The chart may be empty.
     GraphPage(const Chart& chart, const UserLocale& locale, const Texts& texts, Commands& commands,
               QWidget* parent);
 
     // With data the plot, without it the advice.
+    // Either face keeps its state while the other is shown.
     void ShowPlotFrame(bool hasReadings);
     // Draws the chart as it is now.
     void ShowChart() { DynaPlot1->ShowChart(); }
     // Gives the large buttons the state of their commands.
+    // Called after every change of the commands.
     void SyncEnabled();
     // Lists files to open with one click; `open` is told which.
+    // Replaces the list. `open` is called from a button's click, so it must put off what changes
+    // this list again.
     void ShowRecentFiles(const QStringList& paths, const std::function<void(QString)>& open);
 
   protected:
+    // Redraws the icons when the desktop turns dark or light.
     void changeEvent(QEvent* event) override;
 
   private:
@@ -47,10 +54,12 @@ class GraphPage final : public QStackedWidget {
     const Texts& texts_;
     Commands& commands_;
     QWidget* frameCommandEnabled = nullptr;
+    // Each carries its toolbar key as a property.
     QList<QPushButton*> largeButtons_;
     QLabel* lblRecent = nullptr;
     QVBoxLayout* recentList_ = nullptr;
     DynaPlot* DynaPlot1 = nullptr;
+    // There, but disabled, until the commands behind them exist.
     QScrollBar* Scroll1 = nullptr;
     QLineEdit* txtFindPoint = nullptr;
     QPushButton* cmdFindPoint = nullptr;

@@ -9,6 +9,7 @@ namespace brask {
 QGroupBox* OptionControls::Frame(const TextRow& title, const char* name) const {
     auto* frame = new QGroupBox(ToQt(texts_, title), page_);
     frame->setObjectName(QString::fromLatin1(name));
+    // the frame owns it; pages add their rows to it
     new QVBoxLayout(frame);
     return frame;
 }
@@ -16,6 +17,7 @@ QGroupBox* OptionControls::Frame(const TextRow& title, const char* name) const {
 QCheckBox* OptionControls::CheckBox(const char* name, const TextRow& caption) const {
     auto* box = new QCheckBox(ToQt(texts_, caption), page_);
     box->setObjectName(QString::fromLatin1(name));
+    // no change of it would be heard yet
     box->setEnabled(false);
     return box;
 }
@@ -23,6 +25,7 @@ QCheckBox* OptionControls::CheckBox(const char* name, const TextRow& caption) co
 QPushButton* OptionControls::Button(const char* name, const QString& caption) const {
     auto* button = new QPushButton(caption, page_);
     button->setObjectName(QString::fromLatin1(name));
+    // the mark of the letter is not read out
     button->setAccessibleName(WithoutMnemonics(caption));
     button->setEnabled(false);
     return button;
@@ -54,6 +57,7 @@ QButtonGroup* OptionControls::Options(const char* name, QGroupBox* frame,
 }
 
 void ChooseOption(QButtonGroup* group, int index) {
+    // setChecked sends toggled but no click, and clicks alone are listened to
     if (QAbstractButton* button = group->button(index)) {
         button->setChecked(true);
         return;

@@ -15,6 +15,8 @@ namespace brask {
 
 enum class Available { kYes, kLater };
 
+// Nothing is kept here: whoever asks for a control keeps the pointer, and the page owns the
+// control. Names become object names as they are.
 class OptionControls {
   public:
     // Controls become children of `page`.
@@ -22,9 +24,12 @@ class OptionControls {
 
     // A titled frame with a column of rows.
     QGroupBox* Frame(const TextRow& title, const char* name = "") const;
+    // Disabled, as all single boxes and buttons are for now.
     QCheckBox* CheckBox(const char* name, const TextRow& caption) const;
+    // The caption without its mnemonic is what screen readers say; set another where it is empty.
     QPushButton* Button(const char* name, const QString& caption) const;
     QPushButton* Button(const char* name, const TextRow& caption) const;
+    // For captions that are no row of a table. Enabled, and not yet in any layout.
     QRadioButton* Option(QButtonGroup* group, int index, const QString& caption) const;
     // A group of option buttons name_0, name_1, ... added to the frame below one another.
     QButtonGroup* Options(const char* name, QGroupBox* frame,

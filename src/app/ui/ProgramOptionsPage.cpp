@@ -42,7 +42,9 @@ QGroupBox* ProgramOptionsPage::BuildDirectoryFrame() {
                                             {kUserDirectory, kSystemDirectory}, Available::kLater);
     lblCurrentPath = new QLabel(frame);
     lblCurrentPath->setObjectName(QStringLiteral("lblCurrentPath"));
+    // a directory's name may look like markup
     lblCurrentPath->setTextFormat(Qt::PlainText);
+    // paths are wanted elsewhere: they can be copied
     lblCurrentPath->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* row = new QHBoxLayout;
     row->addWidget(lblCurrentPath, 1);
@@ -56,6 +58,7 @@ QGroupBox* ProgramOptionsPage::BuildLinksFrame() {
     const auto address = [frame](const char* name) {
         auto* box = new QComboBox(frame);
         box->setObjectName(QString::fromLatin1(name));
+        // an address can be typed that no search has found
         box->setEditable(true);
         box->setEnabled(false);
         return box;
@@ -78,8 +81,10 @@ void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
     chkAutoDeleteK42->setChecked(options.AutoClear);
     ChooseOption(optUseUserDirectory, options.UserDirectoryActive ? 0 : 1);
     lblCurrentPath->setText(directories.CurrentPath);
+    // hidden, not disabled: where the system has no such choice it would only puzzle
     frameXPDataAccess->setVisible(directories.DataAccessChoice);
     ChooseOption(optDataAccess, options.DataAccessIsGlobal ? 0 : 1);
+    // the captions name directories, which are known only now
     optDataAccess->button(0)->setText(
         ToQt(texts_.Fill(kAllUsers, {FromQt(directories.SharedDirectory)})));
     optDataAccess->button(1)->setText(ToQt(
@@ -87,6 +92,7 @@ void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
 }
 
 void ProgramOptionsPage::ShowAddresses(const QString& instrument, const QString& handheld) {
+    // not added to the list: that is for what a search finds
     cmbInstrumentAddress->setEditText(instrument);
     cmbHandheldAddress->setEditText(handheld);
 }

@@ -14,36 +14,46 @@ namespace brask {
 
 // What the page says about directories and users.
 struct DirectoryOptions {
+    // Where data lies now: the user's own choice, or the system's place for it.
     QString CurrentPath;
     bool DataAccessChoice = false;  // whether this system tells shared from own data
+    // These three fill the captions of the choice, also while it is hidden.
     QString SharedDirectory;
     QString UserName;
     QString UserDirectory;
 };
 
+// Nothing can be changed here yet: all controls are disabled until their work exists.
 class ProgramOptionsPage final : public QWidget {
   public:
+    // Texts must outlive the page.
     ProgramOptionsPage(const Texts& texts, QWidget* parent);
 
     // Sets every control from the stored options.
+    // May be called again when directories have changed.
     void ShowOptions(const ProgramOptions& options, const DirectoryOptions& directories);
     // The start-up reads this option last, by itself.
     void ShowMaximized(bool maximized) { chkOpenFullSize->setChecked(maximized); }
     // The links in force, as they are stored.
+    // Shown as typed; nothing is looked up.
     void ShowAddresses(const QString& instrument, const QString& handheld);
 
   private:
+    // One frame each, from top to bottom.
     QGroupBox* BuildProgramFrame();
     QGroupBox* BuildDirectoryFrame();
     QGroupBox* BuildLinksFrame();
 
     const Texts& texts_;
     OptionControls controls_;
+    // The controls, under the names that help and tests know; all belong to the page.
     QCheckBox* chkOpenFullSize = nullptr;
     QCheckBox* chkNotifyUserNewFiles = nullptr;
     QCheckBox* chkAutoDeleteK42 = nullptr;
+    // Button 0 is the user's directory, 1 the system's.
     QButtonGroup* optUseUserDirectory = nullptr;
     QLabel* lblCurrentPath = nullptr;
+    // Hidden on systems that make no such difference.
     QGroupBox* frameXPDataAccess = nullptr;
     QButtonGroup* optDataAccess = nullptr;
     QComboBox* cmbInstrumentAddress = nullptr;

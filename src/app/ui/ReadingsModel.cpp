@@ -10,6 +10,7 @@
 namespace brask {
 namespace {
 
+// Left to right, as the grid shows them.
 enum Column { kResult, kTime, kGas, kTemperature, kMarkers, kColumns };
 
 // White and cyan in turn, with dark letters in every colour scheme: readers follow long rows.
@@ -25,6 +26,7 @@ ReadingsModel::ReadingsModel(const DataSet& readings, const TemperatureUnit& uni
 
 void ReadingsModel::LetGo() {
     beginResetModel();
+    // From here on the readings are re-created while events run; a repaint must not ask for one.
     rows_ = 0;
     endResetModel();
 }
@@ -36,6 +38,7 @@ void ReadingsModel::TakeReadings() {
 }
 
 int ReadingsModel::rowCount(const QModelIndex& parent) const {
+    // the rows of a table have no rows of their own
     return parent.isValid() ? 0 : rows_;
 }
 
@@ -63,10 +66,12 @@ QVariant ReadingsModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return CellText(static_cast<std::size_t>(index.row()), index.column());
         case Qt::BackgroundRole:
+            // rows count from 1, so the first one is odd
             return index.row() % 2 == 0 ? kOddRow : kEvenRow;
         case Qt::ForegroundRole:
             return kLetters;
         case Qt::TextAlignmentRole:
+            // points stand below one another when numbers end together
             return QVariant(index.column() == kMarkers ? Qt::AlignLeft | Qt::AlignVCenter
                                                        : Qt::AlignRight | Qt::AlignVCenter);
         default:

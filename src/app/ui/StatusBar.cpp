@@ -10,6 +10,7 @@ namespace {
 QLabel* NamedLabel(const char* name, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
+    // a file may be called like a tag
     label->setTextFormat(Qt::PlainText);
     label->setContentsMargins(6, 0, 6, 0);
     return label;
@@ -26,11 +27,13 @@ StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
       lblStatusTime(NamedLabel("lblStatusTime", this)),
       TimerOneSecond(new QTimer(this)) {
     setObjectName(QStringLiteral("StatusBar1"));
+    // permanent ones stay in sight while a notice is shown
     addPermanentWidget(lblStatusFile);
     addPermanentWidget(lblStatusCounts);
     addPermanentWidget(lblStatusTime);
     TimerOneSecond->setObjectName(QStringLiteral("TimerOneSecond"));
     connect(TimerOneSecond, &QTimer::timeout, this, [this] { ShowTime(); });
+    // more often than the minute changes, so that it changes on time
     TimerOneSecond->start(1000);
     ShowTime();
 }
@@ -44,12 +47,15 @@ void StatusBar::ShowData(const DataSet& readings, const QString& fileName,
         rejectedLines == 0
             ? texts_.Fill(app_texts::kStatusReadings, {count})
             : texts_.Fill(app_texts::kStatusRejected, {count, std::to_string(rejectedLines)});
+    // a file of bad lines alone has something to tell as well
     lblStatusCounts->setText(any || rejectedLines > 0 ? ToQt(text) : QString());
 }
 
+// No time limit: a notice may come while nobody looks.
 void StatusBar::ShowNotice(const QString& text) { showMessage(text); }
 
 void StatusBar::ShowTime() {
+    // the first 17 characters end with the minutes
     lblStatusTime->setText(ToQt(FormatReadingTime(clock_.Now()).substr(0, 17)));
 }
 

@@ -12,13 +12,16 @@
 
 namespace brask {
 
+// Texts and clock must outlive it.
 class StatusBar final : public QStatusBar, public NoticeView {
   public:
     StatusBar(const Texts& texts, const Clock& clock, QWidget* parent);
 
     // Shows the file's name and the counts; nothing without readings.
+    // Called when a load has ended. The name is shown as it is, never read as markup; lines that
+    // were rejected are told even when no reading is left.
     void ShowData(const DataSet& readings, const QString& fileName, std::int64_t rejectedLines);
-    // Stands until the next load or another notice.
+    // Stands until another notice takes its place.
     void ShowNotice(const QString& text) override;
 
   private:
@@ -26,7 +29,9 @@ class StatusBar final : public QStatusBar, public NoticeView {
     void ShowTime();
 
     const Texts& texts_;
+    // Not the system's own clock, so that tests can set the time.
     const Clock& clock_;
+    // At the right end, where notices do not cover them.
     QLabel* lblStatusFile;
     QLabel* lblStatusCounts;
     QLabel* lblStatusTime;

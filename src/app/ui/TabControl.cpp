@@ -6,6 +6,7 @@
 namespace brask {
 namespace {
 
+// Qt's own bar keeps silent about a click on a disabled tab; users would not learn why.
 class ClickableTabBar final : public QTabBar {
   public:
     explicit ClickableTabBar(TabControl* owner) : QTabBar(owner), owner_(owner) {}
@@ -28,6 +29,7 @@ class ClickableTabBar final : public QTabBar {
 
 TabControl::TabControl(QWidget* parent) : QTabWidget(parent) {
     setObjectName(QStringLiteral("SSTab1"));
+    // Qt takes another bar only before the first page
     setTabBar(new ClickableTabBar(this));
     setDocumentMode(true);
 }

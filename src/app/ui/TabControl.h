@@ -12,6 +12,7 @@ class TabControl final : public QTabWidget {
   public:
     explicit TabControl(QWidget* parent);
 
+    // The tab does not change. Sent by a press of any mouse button; keys pass disabled tabs by.
   signals:
     void DisabledTabClicked(int index);
 };

@@ -13,6 +13,7 @@ Toolbar::Toolbar(const Texts& texts, Commands& commands, const MenuBar& menus, Q
     setObjectName(QStringLiteral("Toolbar1"));
     setMovable(false);
     setIconSize({24, 24});
+    // the window's own menu there could hide the toolbar, and users would not find it again
     setContextMenuPolicy(Qt::PreventContextMenu);
 }
 
@@ -24,6 +25,7 @@ void Toolbar::BuildToolbar() {
             continue;
         }
         QAction* const button = addAction(ToQt(key));
+        // for buttons that follow no menu item; SyncAll decides about the others
         button->setEnabled(commands_.Registered(row.Command));
         // the image's name has no blank, so it can name the object
         QWidget* const widget = widgetForAction(button);
@@ -43,6 +45,7 @@ void Toolbar::SyncToolbarButton(const std::string& key) {
     QAction* const button = Button(key);
     const ToolbarRow* const row = FindToolbarRow(key);
     if (button == nullptr || row == nullptr) return;
+    // an empty name finds no item, and the button stays as it is
     if (const QAction* item = menus_.Item(QString::fromLatin1(row->Follows))) {
         button->setEnabled(item->isEnabled());
     }
@@ -58,6 +61,7 @@ void Toolbar::SetToolTip(const std::string& key, const QString& tip) {
     QAction* const button = Button(key);
     if (button == nullptr) return;
     button->setToolTip(tip);
+    // buttons show pictures alone; without a name they are read out by their keys
     widgetForAction(button)->setAccessibleName(tip);
 }
 
@@ -71,6 +75,7 @@ void Toolbar::DrawIcons() {
 
 void Toolbar::changeEvent(QEvent* event) {
     QToolBar::changeEvent(event);
+    // light ink for dark windows, and back
     if (event->type() == QEvent::PaletteChange) DrawIcons();
 }
 

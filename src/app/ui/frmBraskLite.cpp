@@ -37,12 +37,14 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session, const P
       recent_(session.Options) {
     setObjectName(QStringLiteral("frmBraskLite"));
     setWindowIcon(ProgramIcon());
+    // on the window itself, so that a file may be dropped anywhere on it
     setAcceptDrops(true);
     resize(1100, 740);
     document_.SetView(*this);
     files_ = std::make_unique<FileCommands>(
         system_, FileCommandParts{document_, commands_, recent_, session_.Directories, choosers},
         *this);
+    // before the menus: an item whose command is unknown starts disabled
     RegisterCommands();
     menus_ = std::make_unique<MenuBar>(*menuBar(), system_.Words, commands_);
     BuildPages();
@@ -66,6 +68,7 @@ void frmBraskLite::BuildPages() {
     setStatusBar(statusBar_);
     frmBuildingGraph_ = new frmBuildingGraph(texts, this);
 
+    // only when all pages are there: adding the first one selects it
     connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { SSTab1_Click(tab); });
     connect(SSTab1, &TabControl::DisabledTabClicked, this, [this](int tab) { SSTab1_Click(tab); });
     connect(graphOptions_, &GraphOptionsPage::GraphTypeChosen, this,
@@ -90,6 +93,8 @@ void frmBraskLite::RegisterCommands() {
 void frmBraskLite::FormLoad() {
     ShowCaption(document_.StartCaption());
     const std::string programDirectory = system_.Information.ProgramDirectory();
+    // The order of these steps is fixed: later ones read what earlier ones have set, and messages
+    // come in an order that users know.
     connectionText_ = ConnectionText(programDirectory, system_.Disk.Separator());
     windowsKind_ =
         CheckWindowsVersion(system_.Information, system_.User, system_.Words, session_.Options);
@@ -114,6 +119,7 @@ void frmBraskLite::FormLoad() {
 }
 
 void frmBraskLite::LoadOptions() {
+    // controls are set from what is stored, and nothing that they send must be stored back
     const Settings::LoadingGuard guard(session_.Options);
     const ProgramOptions options =
         LoadProgramOptions(session_.Options, system_.User, system_.Words);
@@ -147,9 +153,11 @@ void frmBraskLite::CheckSyncSoftware() {
 void frmBraskLite::ShowCaption(const std::string& caption) { setWindowTitle(ToQt(caption)); }
 
 void frmBraskLite::ShowChart() {
+    // a load begins, or has ended without readings
     if (plotting_.Plot.Curves().empty()) dataPage_->LetGo();
     graphPage_->ShowChart();
     if (session_.Data.ReadingCount == 0 || document_.Layout() != GraphType::kContinuous) return;
+    // only the continuous layout has dates on its axis to be shown in the boxes
     const AxisRange& range = plotting_.Plot.X.Range();
     graphOptions_->ShowPeriod(ToQt(FormatReadingTime(range.Minimum)),
                               ToQt(FormatReadingTime(range.Maximum)));
@@ -165,7 +173,9 @@ void frmBraskLite::ShowReadings() {
 
 void frmBraskLite::SSTab1_Click(int tab) {
     if (tab == kDataTab && session_.Data.ReadingCount == 0) {
+        // comes back here when the tab changes by it, and ends there
         SSTab1->setCurrentIndex(previousTab_);
+        // no box in the middle of a load: it would hold up the reading
         if (commands_.Busy()) return;
         system_.User.ShowMessage(
             {system_.Words.Find(data_texts::kProgramTitle), system_.Words.Find(kNoDataYet)});
@@ -178,6 +188,7 @@ void frmBraskLite::SSTab1_Click(int tab) {
 
 void frmBraskLite::optGraph_Click(int index) {
     if (session_.Options.Loading()) return;
+    // whichever of menu and button was used, the other one is set; neither sends anything for it
     graphOptions_->ShowGraphType(index);
     menus_->SetChecked("mnuGraphType_" + QString::number(index), true);
     commands_.Guard("optGraph", [&] { document_.SetGraphType(static_cast<GraphType>(index)); });
@@ -196,6 +207,7 @@ void frmBraskLite::UpdateDataCommands() {
     if (!commands_.HasReadings() && SSTab1->currentIndex() == kDataTab) {
         SSTab1->setCurrentIndex(kGraphTab);
     }
+    // after moving away: disabling the tab in front would make Qt choose another one by itself
     SSTab1->setTabEnabled(kDataTab, commands_.HasReadings());
     graphOptions_->setEnabled(!commands_.Busy());
     programOptions_->setEnabled(!commands_.Busy());
@@ -215,6 +227,7 @@ void frmBraskLite::ShowRecentFiles() {
         paths << ToQt(path);
         QAction* const entry = menu->addAction(
             QStringLiteral("&%1  %2")
+                // the tenth has the key 0
                 .arg(paths.size() % 10)
                 .arg(QString(paths.last()).replace(QLatin1Char('&'), QStringLiteral("&&"))));
         connect(entry, &QAction::triggered, this, [this, path] { OpenLater(ToQt(path)); });
@@ -222,6 +235,7 @@ void frmBraskLite::ShowRecentFiles() {
     menu->addSeparator();
     QAction* const clear = menu->addAction(ToQt(system_.Words, kClearList));
     connect(clear, &QAction::triggered, this, [this] {
+        // the list is made anew below, with this very entry
         recent_.Clear();
         ShowRecentFiles();
     });
@@ -230,6 +244,8 @@ void frmBraskLite::ShowRecentFiles() {
 }
 
 void frmBraskLite::OpenLater(const QString& path) {
+    // A load would otherwise run inside the drop, where the other program waits for an answer, or
+    // inside the click on an entry that the load removes.
     QTimer::singleShot(0, this, [this, path] { OpenFile(path); });
 }
 
@@ -247,6 +263,7 @@ void frmBraskLite::dragEnterEvent(QDragEnterEvent* event) {
 
 void frmBraskLite::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
+    // read now: what was dragged is gone when the load begins
     OpenLater(DraggedFile(event->mimeData()));
 }
 

@@ -26,31 +26,42 @@
 
 namespace brask {
 
+// Order matters among its parts: commands are registered before the menus that show their state,
+// menus exist before the toolbar that copies it.
 class frmBraskLite final : public QMainWindow, private DocumentView {
     Q_OBJECT
 
   public:
+    // What the structs refer to must outlive the window. Before FormLoad it shows no option and the
+    // toolbar is empty.
     frmBraskLite(const System& system, const Session& session, const Plotting& plotting,
                  Choosers& choosers);
 
     // The start-up sequence; run once, before the window is shown.
+    // May show messages, and may end the program: ask the user interface before showing it.
     void FormLoad();
     // Where progress and notices of the core are to be shown.
+    // Valid as long as the window.
     ProgressView& Progress() { return *frmBuildingGraph_; }
     NoticeView& Notices() { return *statusBar_; }
     // Opens a data file from disk.
+    // Returns when the load has ended; ignored while another one runs.
     void OpenFile(const QString& path) { files_->OpenFile(path); }
     // Whether the stored options ask for a maximized window.
+    // Known after FormLoad.
     bool OpensMaximized() const { return opensMaximized_; }
     // For tests and for pieces that come to hook in.
     Commands& Registry() { return commands_; }
 
   protected:
+    // Ends the program, also in the middle of a load.
     void closeEvent(QCloseEvent* event) override;
+    // One data file can be dropped anywhere on the window, except while long work runs.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
+    // In the order in which the tabs stand.
     enum Tab { kGraphTab, kDataTab, kGraphOptionsTab, kProgramOptionsTab };
 
     // Makes the toolbar, the tabs with their pages, the status bar and the progress window.
@@ -60,8 +71,10 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     // Steps of the start-up.
     void LoadOptions();  // stored options into controls, under the loading guard
     void ShowDirectories(const ProgramOptions& options);
+    // Looks for the handheld's synchronization program.
     void CheckSyncSoftware();
 
+    // The document's calls. An empty chart means that the readings are about to go.
     void ShowCaption(const std::string& caption) override;
     void ShowChart() override;
     void ShowReadings() override;
@@ -71,11 +84,13 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     void SSTab1_Click(int tab);
     // The one handler of the layout: keeps options, menu and settings equal, rebuilds the plot.
     void optGraph_Click(int index);
+    // Acts on a change alone.
     void optTemperatureDisplay_Click(bool fahrenheit);
     // Gives menus, buttons, tabs and option pages the state that the commands have now.
     void UpdateDataCommands();
     // Lists the recent files in the menu and on the page without data.
     void ShowRecentFiles();
+    // The submenu is disabled while its list is empty or a load runs.
     void SyncRecentFiles();
     // Opens a file that was dropped or named in a list, once the events under way are done.
     void OpenLater(const QString& path);
@@ -83,10 +98,14 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     System system_;
     Session session_;
     Plotting plotting_;
+    // Made before menus and pages, which refer to it. Child widgets go after it, and by then no
+    // longer use it.
     Commands commands_;
     Document document_;
     RecentFiles recent_;
+    // Found at start-up; decides where data lies.
     WindowsKind windowsKind_ = WindowsKind::kNotClassified;
+    // Composed at start-up; commands that come later read them.
     std::string connectionText_;
     std::string helpFile_;
     int previousTab_ = kGraphTab;  // where the grid's tab returns to without readings
@@ -94,6 +113,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
 
     std::unique_ptr<MenuBar> menus_;
     std::unique_ptr<FileCommands> files_;
+    // Children of the window, which deletes them.
     Toolbar* Toolbar1 = nullptr;
     TabControl* SSTab1 = nullptr;
     GraphPage* graphPage_ = nullptr;

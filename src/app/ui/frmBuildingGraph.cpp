@@ -8,12 +8,14 @@
 namespace brask {
 namespace {
 
+// In the order of ProgressMode.
 constexpr TextRow kModes[] = {app_texts::kFillingGrid, app_texts::kReadingFile,
                               app_texts::kVerifyingData};
 
 }  // namespace
 
 frmBuildingGraph::frmBuildingGraph(const Texts& texts, QWidget* parent)
+    // without a close button: only the work knows when it has ended
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
       texts_(texts),
       lblMode(new QLabel(this)),
@@ -46,8 +48,10 @@ void frmBuildingGraph::Begin(ProgressMode mode) {
     lblMode->setText(text);
     lblPoints->setText(QString());
     cmdCancel->setVisible(mode == ProgressMode::kReadingFile);
+    // the last load may have been cancelled
     cmdCancel->setEnabled(true);
     Timer1Second->start(1000);
+    // not exec: the work goes on behind it
     show();
 }
 
@@ -57,8 +61,10 @@ void frmBuildingGraph::End() {
 }
 
 void frmBuildingGraph::cmdCancel_Click() {
+    // Escape comes here in every mode
     if (cmdCancel->isHidden()) return;
     cancelled_ = true;
+    // shows that the click was heard; the work may take a moment to see it
     cmdCancel->setEnabled(false);
 }
 

@@ -12,14 +12,19 @@
 
 namespace brask {
 
+// Not modal: the main window stays usable for what is harmless, and its commands are locked by the
+// busy flag. It lives from the calls in which long work lets events run.
 class frmBuildingGraph final : public QDialog, public ProgressView {
   public:
     frmBuildingGraph(const Texts& texts, QWidget* parent);
 
+    // Shows it with a count of nothing and Cancel not yet asked for.
     void Begin(ProgressMode mode) override;
     // Shown once a second.
     void SetCount(std::int64_t count) override { counter_ = count; }
+    // Stays true until the next Begin.
     bool Cancelled() const override { return cancelled_; }
+    // Also right when it is not shown.
     void End() override;
 
   protected:
@@ -35,8 +40,10 @@ class frmBuildingGraph final : public QDialog, public ProgressView {
     const Texts& texts_;
     QLabel* lblMode;
     QLabel* lblPoints;
+    // Only there while a file is read.
     QPushButton* cmdCancel;
     QTimer* Timer1Second;
+    // The last count that the work reported since the line was shown.
     std::int64_t counter_ = 0;
     bool cancelled_ = false;
 };

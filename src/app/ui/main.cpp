@@ -53,6 +53,7 @@ Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& te
                                    ToQt(texts, app_texts::kUsageOrder), QStringLiteral("ORDER"));
     parser.addOptions({settings, root, order});
     if (!parser.parse(words)) return Error{0, FromQt(parser.errorText())};
+    // only after unknown words were refused
     if (parser.isSet(help)) parser.showHelp();
     if (parser.isSet(version)) parser.showVersion();
     const auto named = DateOrderNamed(parser.value(order));
@@ -78,6 +79,7 @@ int RunWindow(int argc, char** argv) {
         return kWrongUsage;
     }
     const WindowArguments& line = parsed.Value();
+    // a second application object: the first one only read the words and is gone
     const QApplication application(argc, argv);
 
     NativeSystem native;
@@ -86,6 +88,8 @@ int RunWindow(int argc, char** argv) {
     const System system{user,         texts, native.Disk(), native.Locale(), native.Information(),
                         native.Time()};
 
+    // Each object is given what stands above it, so they go in the opposite order, the window
+    // first.
     DiagnosticLog log(native.Disk(), native.Time());
     StoredSettings stored({native.Disk(), native.Locale(), texts, log}, FromQt(line.Settings),
                           [&user](const std::string& text) { user.ShowNotice(text); });
@@ -93,6 +97,7 @@ int RunWindow(int argc, char** argv) {
     TemperatureUnit unit(stored.Options().Number("DisplayTemperatureUnits") != 0);
     DataDirectories directories(native.Disk(), user, texts);
     if (!line.Root.isEmpty()) {
+        // made absolute at once: dialogs may change the directory that the program runs in
         directories.OverrideBase(native.Disk().Absolute(FromQt(line.Root)));
     }
     DataFileLoader loader(data, user, texts, native.Disk(), log);
@@ -103,16 +108,21 @@ int RunWindow(int argc, char** argv) {
     PlotBuilder builder(chart, data, native.Locale(), texts);
 
     frmBraskLite window(system, session, {chart, builder}, choosers);
+    // before FormLoad, whose messages belong to the window
     user.SetViews(&window, &window.Progress(), &window.Notices());
     window.FormLoad();
+    // a start-up message was answered with leaving; without an event loop yet, quitting has no
+    // effect of its own
     if (user.Ended()) return 0;
     if (window.OpensMaximized()) {
         window.showMaximized();
     } else {
         window.show();
     }
+    // last of the start-up, so that no other notice covers it
     if (!stored.Damage().empty()) user.ShowNotice(stored.Damage());
     if (!line.File.isEmpty()) {
+        // once the loop runs: the window is seen before a long load begins
         QTimer::singleShot(0, &window, [&] { window.OpenFile(line.File); });
     }
     return QApplication::exec();
@@ -124,6 +134,7 @@ int main(int argc, char** argv) {
     try {
         return RunWindow(argc, argv);
     } catch (const std::exception& error) {
+        // commands have their own guard; this is for the start and the end
         std::fprintf(stderr, "brasklite: %s\n", error.what());
         return 1;
     }

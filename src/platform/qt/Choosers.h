@@ -9,6 +9,7 @@ class QWidget;
 
 namespace brask {
 
+// All texts as the user is to see them, already in the user's language.
 struct FileQuestion {
     QString Title;
     QString Filter;         // "CSV Files|*.csv|All Files|*.*", the first one chosen
@@ -16,7 +17,8 @@ struct FileQuestion {
     QString DefaultSuffix;  // added to a name without extension; for saving
 };
 
-// A seam of its own, because tests cannot click in the system's dialogs.
+// Calls return when the dialog is closed; events run meanwhile, so the parent must not go away.
+// Paths are absolute and may name what has vanished since.
 class Choosers {
   public:
     virtual ~Choosers() = default;

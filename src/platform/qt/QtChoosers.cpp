@@ -8,7 +8,7 @@ namespace {
 
 // Qt matches letter case; a camera's or handheld's "RUN1.CSV" is a data file all the same.
 QString AnyCase(const QString& pattern) {
-    // "*.*" would leave out names without a dot
+    // taken literally this would hide files without a dot
     if (pattern == QStringLiteral("*.*")) return QStringLiteral("*");
     const QString upper = pattern.toUpper();
     return upper == pattern ? pattern : pattern + QLatin1Char(' ') + upper;
@@ -47,6 +47,7 @@ std::optional<QString> QtChoosers::FileToSave(QWidget* parent, const FileQuestio
     QFileDialog dialog(parent, question.Title, question.Start, QtFilter(question.Filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    // Qt adds it before it asks about an existing file, so the question names the right one
     dialog.setDefaultSuffix(question.DefaultSuffix);
     return Ask(dialog);
 }

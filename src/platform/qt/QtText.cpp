@@ -9,7 +9,7 @@ std::string FromQt(const QString& text) { return text.toStdString(); }
 QString ToQt(const Texts& texts, const TextRow& row) { return ToQt(texts.Find(row)); }
 
 QString WithoutMnemonics(QString text) {
-    // parked as a character that no caption holds, while the single marks are taken out
+    // kept aside under a character that no caption has, or the next step would take it away too
     text.replace(QStringLiteral("&&"), QStringLiteral("\x01"));
     text.remove(QLatin1Char('&'));
     return text.replace(QLatin1Char('\x01'), QLatin1Char('&'));

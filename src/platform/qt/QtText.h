@@ -8,12 +8,13 @@
 
 namespace brask {
 
-// Bytes that are not UTF-8 become replacement characters.
+// Bytes that are no UTF-8 become replacement characters: texts of files are converted before.
 QString ToQt(const std::string& utf8);
 std::string FromQt(const QString& text);
 // A row in the language in force.
 QString ToQt(const Texts& texts, const TextRow& row);
 // A caption without its mnemonic mark; "&&" becomes the "&" that it stands for.
+// For names that are read out, and for texts that are no captions.
 QString WithoutMnemonics(QString text);
 
 }  // namespace brask

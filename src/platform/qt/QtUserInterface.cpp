@@ -15,7 +15,7 @@ constexpr qint64 kPumpInterval = 10;  // milliseconds
 void Fill(QMessageBox& box, const Message& message) {
     box.setWindowTitle(ToQt(message.Title));
     box.setTextFormat(Qt::PlainText);
-    // Messages join their lines by CR LF; a Qt text breaks at LF alone.
+    // lines end with CR LF, and Qt breaks them at the LF alone
     box.setText(ToQt(message.Text).remove(QLatin1Char('\r')));
 }
 
@@ -33,6 +33,7 @@ void QtUserInterface::SetViews(QWidget* window, ProgressView* progress, NoticeVi
 }
 
 QWidget* QtUserInterface::Parent() const {
+    // a box over the main window would lie behind an open dialog, and neither could be answered
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : window_.data();
 }
@@ -46,6 +47,7 @@ void QtUserInterface::ShowMessage(const Message& message) {
 bool QtUserInterface::ShowRepeatedMessage(const Message& message) {
     QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, Parent());
     Fill(box, message);
+    // unchecked in every new box: one answer never silences by mistake
     auto* noMore = new QCheckBox(ToQt(texts_, noMoreMessages_), &box);
     box.setCheckBox(noMore);
     box.exec();
@@ -71,6 +73,7 @@ void QtUserInterface::BeginProgress(ProgressMode mode) {
     // the window is there before the work begins: once to map it, once to paint it
     QApplication::processEvents();
     QApplication::processEvents();
+    // events have just run
     sinceEvents_.restart();
 }
 
@@ -101,17 +104,18 @@ void QtUserInterface::SetWaitCursor(bool waiting) {
 }
 
 void QtUserInterface::LetEventsRun() {
-    // Asked far more often than a screen can follow; pumping each time would slow the work down.
+    // work asks before every line; running events each time would take longer than the work
     if (sinceEvents_.elapsed() < kPumpInterval) return;
     QApplication::processEvents();
     sinceEvents_.restart();
 }
 
 void QtUserInterface::EndProgram() {
-    // closing the windows asks for the end again
     if (ended_) return;
+    // first of all: closing the main window asks for the end once more
     ended_ = true;
     QApplication::closeAllWindows();
+    // a window that does not count as closed must not keep the loop alive
     QApplication::quit();
 }
 

@@ -7,6 +7,7 @@
 
 namespace brask {
 
+// Always opaque: stored colours have no transparency.
 inline QColor ToColor(ColorValue color) { return {color.Red(), color.Green(), color.Blue()}; }
 
 }  // namespace brask

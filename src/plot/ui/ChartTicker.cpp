@@ -13,6 +13,7 @@ void ChartTicker::generate(const QCPRange& range, const QLocale& /*locale*/, QCh
                            int /*precision*/, QVector<double>& ticks, QVector<double>* subTicks,
                            QVector<QString>* tickLabels) {
     ticks.clear();
+    // the axis passes null for what it does not show
     if (subTicks != nullptr) subTicks->clear();
     QVector<QString> labels;
     const XAxisLabels& table = chart_.Labels;
@@ -22,6 +23,8 @@ void ChartTicker::generate(const QCPRange& range, const QLocale& /*locale*/, QCh
             labels.append(QString::fromStdString(FormatDateLabel(tick, table.DateFormat, locale_)));
         }
     }
+    // ticks beyond the range would still be drawn, outside the axes; text and tick lists must stay
+    // of equal length
     for (const TickLabel& label : table.Custom) {
         if (!table.DateFormat.empty() || !range.contains(label.Position)) continue;
         ticks.append(label.Position);

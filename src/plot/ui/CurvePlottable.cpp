@@ -13,6 +13,7 @@ AxisRange RangeOf(const QCPAxis& axis) { return {axis.range().lower, axis.range(
 void PaintLines(QCPPainter& painter, const PixelPolylines& lines) {
     QVector<QPointF> points;
     for (std::size_t i = 0; i < lines.Count(); ++i) {
+        // keeps its memory from polyline to polyline
         points.clear();
         for (const PixelPoint& point : lines[i]) points.append(QPointF(point.X, point.Y));
         painter.drawPolyline(points.constData(), static_cast<int>(points.size()));
@@ -21,10 +22,12 @@ void PaintLines(QCPPainter& painter, const PixelPolylines& lines) {
 
 void PaintSpans(QCPPainter& painter, const Curve& curve, std::span<const PixelSpan> spans) {
     const QColor color = ToColor(curve.Color);
+    // Rectangles, not lines: pens wider than one pixel are what makes long curves slow to draw.
     const int width = std::max(1, static_cast<int>(std::lround(curve.LineWidth)));
     for (const PixelSpan& span : spans) {
         const int top = static_cast<int>(std::floor(span.Top));
         const int bottom = static_cast<int>(std::floor(span.Bottom));
+        // as tall as the pen is wide at least, so that a level stretch is not thinner than a line
         painter.fillRect(span.X - width / 2, top, width, bottom - top + width, color);
     }
 }
@@ -48,6 +51,7 @@ CurvePlottable::CurvePlottable(const Chart& chart, QCPAxis* xAxis, QCPAxis* left
       chart_(chart),
       leftAxis_(leftAxis),
       rightAxis_(rightAxis) {
+    // readings are selected through the chart; the library must not mark anything by itself
     setSelectable(QCP::stNone);
 }
 
@@ -70,7 +74,9 @@ QCPRange CurvePlottable::getValueRange(bool& foundRange, QCP::SignDomain /*signD
 void CurvePlottable::drawLegendIcon(QCPPainter* /*painter*/, const QRectF& /*rect*/) const {}
 
 PixelView CurvePlottable::ViewOf(const Curve& curve) const {
+    // one plottable serves both value axes; the library itself knows only the left one
     const QCPAxis& valueAxis = curve.Axis == ChartAxis::kLeft ? *leftAxis_ : *rightAxis_;
+    // may be empty or worse when the window is very small: a view is at least one pixel
     const QRect rect = mKeyAxis->axisRect()->rect();
     PixelView view({1.0 * rect.left(), 1.0 * rect.top(), std::max(1.0, 1.0 * rect.width()),
                     std::max(1.0, 1.0 * rect.height())},
@@ -90,8 +96,10 @@ void CurvePlottable::Paint(QCPPainter& painter, const Curve& curve) const {
     if (curve.Line == LineStyle::kDotted) pen.setDashPattern({1, 2});
     painter.setBrush(Qt::NoBrush);
     painter.setPen(pen);
+    // a dense curve is many short strokes: smoothing them takes time and shows nothing
     painter.setAntialiasing(!shape.Dense);
     PaintLines(painter, shape.Lines);
+    // spans and markers stand on whole pixels; smoothed they would blur and lose their colour
     painter.setAntialiasing(false);
     PaintSpans(painter, curve, shape.Spans);
     PaintMarkers(painter, curve, shape);

@@ -26,14 +26,20 @@ class CurvePlottable final : public QCPAbstractPlottable {
                            const QCPRange& keyRange) const override;
 
   protected:
+    // Called by the plot at each replot and for each picture, with the painter clipped to the
+    // inside of the axes.
     void draw(QCPPainter* painter) override;
+    // Draws nothing: the plot has no legend.
     void drawLegendIcon(QCPPainter* painter, const QRectF& rect) const override;
 
   private:
+    // The view of the axes that the curve belongs to, as they stand now.
     PixelView ViewOf(const Curve& curve) const;
+    // One curve: its lines, then its spans, and markers on top.
     void Paint(QCPPainter& painter, const Curve& curve) const;
 
     const Chart& chart_;
+    // All three axes belong to the plot, which outlives its plottables.
     QCPAxis* leftAxis_;
     QCPAxis* rightAxis_;
 };

@@ -21,6 +21,7 @@ constexpr int kRoomBesideAxis = 130;          // value axes with their titles, p
 
 // Without group separators: "10.000" would be read as ten.
 QLocale NumberLocale(const UserLocale& user) {
+    // only the decimal sign matters to the axes, so any language with a comma will do
     QLocale locale = user.DecimalSign() == ',' ? QLocale(QLocale::German) : QLocale::c();
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     return locale;
@@ -53,6 +54,7 @@ void SetText(QCPTextElement& element, const std::string& text, const QFont& font
 
 void SetRange(QCPAxis& axis, const AxisRange& range, double halfWidth) {
     const AxisRange drawable = DrawableRange(range, halfWidth);
+    // the library puts ends in order without a word, so what was asked for is told apart here
     axis.setRange(drawable.Minimum, drawable.Maximum);
     axis.setRangeReversed(range.Minimum > range.Maximum);
 }
@@ -61,11 +63,13 @@ void SetRange(QCPAxis& axis, const AxisRange& range, double halfWidth) {
 
 DynaPlot::DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent)
     : QCustomPlot(parent), chart_(chart), locale_(locale) {
+    // the library's plot takes the focus by clicks alone, which leaves out who works by keyboard
     setFocusPolicy(Qt::StrongFocus);
     setLocale(NumberLocale(locale));
     xAxis->setTicker(
         QSharedPointer<ChartTicker>::create(chart, locale, [this] { return MostDateLabels(); }));
     xAxis->setSubTicks(false);
+    // the upper axis has no scale: it only closes the frame
     xAxis2->setVisible(true);
     xAxis2->setTicks(false);
     xAxis2->setTickLabels(false);
@@ -83,6 +87,7 @@ DynaPlot::DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent
 void DynaPlot::AddTexts() {
     QCPLayoutGrid& rows = *plotLayout();
     rows.setRowSpacing(2);
+    // the axes stand in row 0 at first and move down to row 2
     rows.insertRow(0);
     rows.insertRow(0);
     title_ = new QCPTextElement(this);
@@ -98,15 +103,20 @@ void DynaPlot::ShowChart() {
     ShowTitle();
     ShowAxes();
     SetText(*readout_, chart_.Readout, PlotFont(kCaptionPoints), ToColor(chart_.X.Color));
+    // Drawn before this returns when it can be seen: the readings may go away right after, and the
+    // old curves with them. A hidden plot only takes note, so that several changes cost one
+    // drawing.
     replot(isVisible() ? rpRefreshHint : rpQueuedReplot);
 }
 
 QImage DynaPlot::Picture(QSize size) {
     size = size.expandedTo(QSize(1, 1));
     QImage picture(size, QImage::Format_RGB32);
+    // pixels of a new image hold anything at all
     picture.fill(ToColor(chart_.Background.Chart));
     QCPPainter painter(&picture);
     toPainter(&painter, size.width(), size.height());
+    // before the image is handed out: while painted on it cannot be shared
     painter.end();
     return picture;
 }
@@ -151,6 +161,8 @@ void DynaPlot::ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale) {
 
 void DynaPlot::ShowBackground() {
     const ChartBackground& background = chart_.Background;
+    // both are set: the colour shows around a picture that is not stretched, and instead of a
+    // missing one
     setBackground(QBrush(ToColor(background.Chart)));
     const QPixmap picture = BackgroundPicture();
     setBackground(picture, background.Stretched, Qt::IgnoreAspectRatio);
@@ -165,6 +177,8 @@ QPixmap DynaPlot::BackgroundPicture() {
     // only a regular file: opening a pipe would wait for ever
     const bool readable = !file.empty() && info.isFile();
     const QDateTime changed = readable ? info.lastModified() : QDateTime();
+    // a picture of some megabytes takes longer to read than the plot to draw, and every rebuild
+    // comes here
     if (pictureFile_ != file || pictureChanged_ != changed) {
         pictureFile_ = file;
         pictureChanged_ = changed;
@@ -178,6 +192,7 @@ std::size_t DynaPlot::MostDateLabels() const {
     const QString widest =
         QString::fromStdString(FormatDateLabel(kWidestMoment, chart_.Labels.DateFormat, locale_));
     const int label = metrics.size(0, widest).width();
+    // not the inside of the axes: its width is still being worked out when this is asked
     const double room = viewport().width() - kRoomBesideAxis;
     return static_cast<std::size_t>(std::clamp(room / (1.4 * label + 1), 2.0, 16.0));
 }

@@ -12,6 +12,8 @@
 
 namespace brask {
 
+// A view of one Chart. It holds nothing of the chart but what the drawing library needs to know
+// before it draws: ranges, colours and texts. The curves are read while painting.
 class DynaPlot : public QCustomPlot {
     Q_OBJECT
 
@@ -27,7 +29,10 @@ class DynaPlot : public QCustomPlot {
     QImage Picture(QSize size);
 
   private:
+    // Rows above and below the axes: title and caption on top, the readout at the bottom.
     void AddTexts();
+    // The parts of ShowChart. They only set what differs between charts; what never changes is set
+    // once by the constructor.
     void ShowTitle();
     void ShowAxes();
     void ShowXAxis();
@@ -36,6 +41,7 @@ class DynaPlot : public QCustomPlot {
     // Empty when there is no such file or it cannot be read as a picture; the file is read again
     // once it has changed.
     QPixmap BackgroundPicture();
+    // How many date labels fit side by side under the widget in its present width, 2 to 16.
     std::size_t MostDateLabels() const;
 
     const Chart& chart_;

@@ -24,6 +24,7 @@ QImage WithPalette(const QImage& picture) {
         const auto* from = reinterpret_cast<const QRgb*>(source.constScanLine(y));
         uchar* to = result.scanLine(y);
         for (int x = 0; x < source.width(); ++x) {
+            // neighbouring pixels mostly have one colour: the table is asked where it changes
             if (palette.isEmpty() || from[x] != lastColor) {
                 lastColor = from[x];
                 const auto known = indexes.constFind(lastColor);
@@ -49,6 +50,7 @@ Status WritePicture(const QImage& picture, const std::string& path, Files& files
     const auto format = PictureFormatOf(path);
     if (!format) return Error{0, "the name has neither .bmp nor .png in it"};
     QByteArray bytes;
+    // encoded in memory first, so that a full disk or a failing encoder never touches the old file
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     const bool png = format == PictureFormat::kPng;
