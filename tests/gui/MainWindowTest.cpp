@@ -215,6 +215,7 @@ TEST_F(MainWindow, RecentFilesListNewestFirstAndCanBeCleared) {
     QCoreApplication::processEvents();
     EXPECT_EQ(Data.CurrentDataFile, "/data/other.csv");
     menu->actions().constLast()->trigger();
+    QCoreApplication::processEvents();
     EXPECT_FALSE(menu->isEnabled());
     EXPECT_EQ(OwnStore.Values["RecentFiles"], "");
 }

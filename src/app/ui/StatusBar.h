@@ -21,7 +21,7 @@ class StatusBar final : public QStatusBar, public NoticeView {
     // Called when a load has ended. The name is shown as it is, never read as markup; lines that
     // were rejected are told even when no reading is left.
     void ShowData(const DataSet& readings, const QString& fileName, std::int64_t rejectedLines);
-    // Stands until another notice takes its place.
+    // Stands until another notice takes its place or the next load begins.
     void ShowNotice(const QString& text) override;
 
   private:

@@ -201,6 +201,8 @@ void frmBraskLite::optTemperatureDisplay_Click(bool fahrenheit) {
 }
 
 void frmBraskLite::UpdateDataCommands() {
+    // what was said about the file before does not hold for the one that is being loaded
+    if (commands_.Busy()) statusBar_->clearMessage();
     menus_->SyncEnabled();
     Toolbar1->SyncAll();
     graphPage_->SyncEnabled();
@@ -235,9 +237,9 @@ void frmBraskLite::ShowRecentFiles() {
     menu->addSeparator();
     QAction* const clear = menu->addAction(ToQt(system_.Words, kClearList));
     connect(clear, &QAction::triggered, this, [this] {
-        // the list is made anew below, with this very entry
         recent_.Clear();
-        ShowRecentFiles();
+        // later: the list is made anew, and with it the very entry that is being triggered
+        QTimer::singleShot(0, this, [this] { ShowRecentFiles(); });
     });
     graphPage_->ShowRecentFiles(paths, [this](const QString& path) { OpenLater(path); });
     SyncRecentFiles();
