@@ -9,6 +9,7 @@
 #include "platform/Programs.h"
 #include "platform/SystemInformation.h"
 #include "platform/UserLocale.h"
+#include "platform/UserStores.h"
 
 namespace brask {
 
@@ -23,6 +24,7 @@ class NativeSystem {
     // All of these live as long as this object.
     Files& Disk();
     Programs& OtherPrograms();
+    UserStores& Stores();
     const Clock& Time() const;
     const UserLocale& Locale() const;
     const SystemInformation& Information() const;

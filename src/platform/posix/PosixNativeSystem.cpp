@@ -10,6 +10,7 @@ namespace brask {
 struct NativeSystem::Parts {
     PosixFiles Disk;
     PosixPrograms OtherPrograms;
+    NoUserStores Stores;
     PosixClock Time;
     PosixUserLocale Locale;
     PosixSystemInformation Information;
@@ -20,6 +21,7 @@ NativeSystem::~NativeSystem() = default;
 
 Files& NativeSystem::Disk() { return parts_->Disk; }
 Programs& NativeSystem::OtherPrograms() { return parts_->OtherPrograms; }
+UserStores& NativeSystem::Stores() { return parts_->Stores; }
 const Clock& NativeSystem::Time() const { return parts_->Time; }
 const UserLocale& NativeSystem::Locale() const { return parts_->Locale; }
 const SystemInformation& NativeSystem::Information() const { return parts_->Information; }
