@@ -32,6 +32,8 @@ Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(const std::string&
             ++lines;
         }
     }
+    // the stream may be the file to replace, which must not be open then
+    opened.Value().reset();
     if (Status placed = output.Commit(); !placed.Ok()) return placed.Why();
     return lines;
 }

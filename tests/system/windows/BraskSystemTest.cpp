@@ -1,0 +1,50 @@
+// What the programs do with the places and names that only Windows has.
+#include <windows.h>
+
+#include "ProgramRunner.h"
+#include "platform/windows/WindowsRegistry.h"
+
+namespace brask {
+namespace {
+
+class BraskOnWindows : public ProgramTest {
+  protected:
+    // as a user of a new machine finds it
+    BraskOnWindows() { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VEK"); }
+    ~BraskOnWindows() override { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VEK"); }
+};
+
+TEST_F(BraskOnWindows, TheUsersOwnStoreIsTheRegistry) {
+    EXPECT_EQ(Run({"settings", "get", "GraphType"}).Out, "0\n");
+    Run({"settings", "set", "GraphType", "2"});
+    Run({"settings", "set", "InstrumentAddress", "tcp:localhost:1"});
+    EXPECT_EQ(Run({"settings", "get", "GraphType"}).Out, "2\n");
+    EXPECT_EQ(Run({"settings", "get", "GraphType", "--settings", At("other.ini")}).Out, "0\n");
+    const std::string key = "Software\\VEK\\Brask Lite";
+    EXPECT_EQ(windows::ReadRegistryText(HKEY_CURRENT_USER, key, "GraphType"), "2");
+    EXPECT_EQ(windows::ReadRegistryText(HKEY_CURRENT_USER, key + " Window", "InstrumentAddress"),
+              "tcp:localhost:1");
+    EXPECT_EQ(Listing(), "");
+}
+
+TEST_F(BraskOnWindows, NamesOfEveryLanguageReachTheProgramAndTheDocument) {
+    const std::string name = "Z\xC3\xBCrich \xE6\xB8\xAC \xF0\x9F\x98\x80.csv";
+    const std::string file = Write(name, DataLine("JAN-01-2003 00:05:12", "0.1", "26.1"));
+    EXPECT_STREQ(Json({"info", file})["file"].GetString(), file.c_str());
+    EXPECT_EQ(Json({"info", At("sub/../" + name)})["readings"].GetDouble(), 1);
+    EXPECT_EQ(MessagesOf(Json({"info", At("missing.csv")}, 1))
+                  .at(0)
+                  .rfind("Cannot read " + At("missing.csv") + ": ", 0),
+              0U);
+    // lines end as everywhere, also in a document that a script takes apart
+    EXPECT_EQ(Run({"list", file}).Out.find('\r'), std::string::npos);
+}
+
+TEST_F(BraskOnWindows, TheLogLiesWhereSupportLooks) {
+    Write("s.ini", "no setting\n");
+    Run({"settings", "get", "GraphType", "--settings", At("s.ini")});
+    EXPECT_NE(Read("C:\\VEKLog.Txt").find(At("s.ini")), std::string::npos);
+}
+
+}  // namespace
+}  // namespace brask
