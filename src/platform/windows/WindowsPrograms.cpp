@@ -98,7 +98,7 @@ Error WindowsPrograms::Become(const std::string& program, std::span<const std::s
     // suspended, so that it is in the job before it can start programs of its own
     if (CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, TRUE, CREATE_SUSPENDED, nullptr,
                        nullptr, &start, &started) == 0) {
-        const Error error = windows::LastError();
+        Error error = windows::LastError();
         SetConsoleCtrlHandler(LeaveToTheOther, FALSE);
         return error;
     }
