@@ -38,7 +38,10 @@ std::optional<double> DisplayPeriod::End(const std::string& text) const {
 
 PeriodCheck DisplayPeriod::Check() const {
     if (Option == PeriodOption::kAllData) return {true, {}, {}};
-    if (Option == PeriodOption::kDays) return {Entry.EndDay >= Entry.StartDay, {}, {}};
+    if (Option == PeriodOption::kDays) {
+        if (Entry.EndDay >= Entry.StartDay) return {true, {}, {}};
+        return {false, {}, texts_.Find(kDaysNotInOrder)};
+    }
     const bool dates = Option == PeriodOption::kDates;
     const std::string& startText = dates ? Entry.StartDate : Entry.StartTime;
     const std::string& endText = dates ? Entry.EndDate : Entry.EndTime;

@@ -40,9 +40,22 @@ inline constexpr auto kNotADate = TextRow("plot", "%1 is not a valid date");
 inline constexpr auto kNotATime = TextRow("plot", "%1 is not a valid time");
 inline constexpr auto kNotANumber = TextRow("plot", "%1 is not a number");
 inline constexpr auto kNotInOrder = TextRow("plot", "The end must be later than the start");
+inline constexpr auto kDaysNotInOrder =
+    TextRow("plot", "The last day must not lie before the first day");
 inline constexpr auto kRangeNotInOrder = TextRow("plot", "The maximum must be above the minimum");
 // A start date for the grid: the entered text and the time stamp of the last reading.
 inline constexpr auto kAfterLastDate =
     TextRow("plot", "Entered Date of %1\r\nis after last date of %2");
+
+// The dialog that sets the ranges by hand; a caption is label, minimum and maximum.
+inline constexpr auto kChangeScales = TextRow("plot", "Change Scales");
+inline constexpr auto kScaleCaption = TextRow("plot", "%1 (%2 - %3)");
+inline constexpr auto kScaleDates = TextRow("plot", "&Dates");
+inline constexpr auto kScaleGas = TextRow("plot", "&Gas");
+inline constexpr auto kScaleTemperature = TextRow("plot", "&Temperature");
+inline constexpr auto kScaleFrom = TextRow("plot", "from");
+inline constexpr auto kScaleTo = TextRow("plot", "to");
+inline constexpr auto kOk = TextRow("plot", "&OK");
+inline constexpr auto kCancel = TextRow("plot", "Cancel");
 
 }  // namespace brask::plot_texts
