@@ -88,6 +88,8 @@ void PlotBuilder::Rebuild(const PlotOptions& options) {
     chart_.Readout = texts_.Find(plot_texts::kNoPointSelected);
     extremes_ = {};
     periodStarts_.clear();
+    layout_ = options.Layout;
+    places_ = {};
 
     switch (options.Layout) {
         case GraphType::kContinuous:
@@ -105,6 +107,7 @@ void PlotBuilder::Rebuild(const PlotOptions& options) {
     }
 
     SetAxes(options);
+    chart_.Original = chart_.View();
     // a title over empty axes would promise data
     if (data_.ReadingCount > 0) SetTitles(options);
 }
@@ -129,6 +132,7 @@ void PlotBuilder::BuildContinuous(const PlotOptions& options) {
     Paint(pair.Temperature, temperatureColor_, options.MarkDataPoints);
 
     const ValueRange times = AddPair(std::move(pair));
+    places_ = ReadingPlaces(data_.Times(), chart_.Curves().front().PyramidX);
     // The search for the first and last moment starts from the bounds of the dates that can be
     // chosen. For a file that lies wholly before 2000 the axis so reaches up to 2000, as it always
     // has.
@@ -151,6 +155,7 @@ void PlotBuilder::BuildPeriods(const PeriodGrouping& grouping, const PlotOptions
         Paint(pair.Temperature, color, options.MarkDataPoints);
         AddPair(std::move(pair));
     }
+    if (data_.ReadingCount > 0) places_ = ReadingPlaces(data_.Times(), grouping);
 }
 
 PlotBuilder::CurvePair PlotBuilder::PeriodCurves(const PeriodGrouping& grouping,
@@ -203,6 +208,7 @@ ValueRange PlotBuilder::AddPair(CurvePair pair) {
 
 void PlotBuilder::LabelHours() {
     chart_.X.SetRange(0, 24);
+    chart_.Labels.UnitsPerDay = 24;
     for (int hour = 0; hour <= 24; ++hour) {
         // Every hour has its tick, every other one its label: 25 labels would run into each other.
         // The last reads 00:00, the midnight that ends the day.
@@ -214,6 +220,7 @@ void PlotBuilder::LabelHours() {
 
 void PlotBuilder::LabelWeek(int startWeekOn) {
     chart_.X.SetRange(0, 7);
+    chart_.Labels.UnitsPerDay = 1;
     const auto names = locale_.DayNames();
     for (std::size_t day = 0; day <= 7; ++day) {
         // the eighth label is the first day again: it ends the week
