@@ -201,7 +201,7 @@ std::string WindowsFiles::Folder(KnownFolder folder) const {
 }
 
 std::string WindowsFiles::Absolute(const std::string& path) const {
-    const std::string absolute = windows::ToUtf8(NativePath(path));
+    std::string absolute = windows::ToUtf8(NativePath(path));
     const std::string_view longForm = "\\\\?\\";
     if (absolute.empty()) return path;
     // people know a path without what marks it as long, and every call puts that in front again
