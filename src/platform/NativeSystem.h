@@ -7,7 +7,9 @@
 #include "platform/Clock.h"
 #include "platform/Files.h"
 #include "platform/Programs.h"
+#include "platform/StopSignal.h"
 #include "platform/SystemInformation.h"
+#include "platform/Tcp.h"
 #include "platform/UserLocale.h"
 
 namespace brask {
@@ -20,12 +22,16 @@ class NativeSystem {
     NativeSystem(const NativeSystem&) = delete;
     NativeSystem& operator=(const NativeSystem&) = delete;
 
-    // All of these live as long as this object.
+    // All references live as long as this object.
     Files& Disk();
     Programs& OtherPrograms();
+    Tcp& Network();
     const Clock& Time() const;
     const UserLocale& Locale() const;
     const SystemInformation& Information() const;
+    // From now on, as long as the result lives, a wish that this program ends is kept for it. Never
+    // null.
+    std::unique_ptr<StopSignal> WatchStopSignal();
 
   private:
     // Behind a pointer, so that no header of one system is seen by code that runs on all.
