@@ -29,8 +29,8 @@ FoundDevice FindInstrument(const InfraredDeviceList& devices) {
     if (found.Count == 0) return found;
     const auto last = static_cast<std::size_t>(found.Count) - 1;
     found.Name = NameAt(devices, kHead + last * kStride + kIdentifierSize);
-    found.Accepted = found.Name == "Generic IrDA" ||
-                     LowerCase(std::string(Trimmed(found.Name))) == "vek tk42";
+    found.Accepted =
+        found.Name == "Generic IrDA" || LowerCase(std::string(Trimmed(found.Name))) == "vek tk42";
     return found;
 }
 

@@ -38,21 +38,18 @@ inline constexpr auto kReceiveFailureTitle = TextRow("link", "Receive Data Failu
 inline constexpr auto kInvalidLength =
     TextRow("link", "Data Line: %1 is invalid (LEN), Transfer Data Again");
 inline constexpr auto kWrongCount =
-    TextRow("link",
-            "File was not received correctly\r\nReceived %1 lines\r\nExpected %2 Lines");
+    TextRow("link", "File was not received correctly\r\nReceived %1 lines\r\nExpected %2 Lines");
 inline constexpr auto kNoData =
     TextRow("link", "Talvex© K42 Instrument did not have any data in it to download!");
 inline constexpr auto kDataFileSaved = TextRow("link", "Data file saved: %1");
 
 // clearing
 inline constexpr auto kCleared = TextRow("link", "Talvex© K42 Data Was Cleared");
-inline constexpr auto kNotCleared =
-    TextRow("link",
-            "Talvex© K42 did not clear data\r\n"
-            "Please clear the data on the Talvex© K42 manually!");
-inline constexpr auto kNoClearAnswer =
-    TextRow("link",
-            "Clear Data Acknowledge Not Received!\r\nPlease Clear The Data In The Talvex© K42");
+inline constexpr auto kNotCleared = TextRow("link",
+                                            "Talvex© K42 did not clear data\r\n"
+                                            "Please clear the data on the Talvex© K42 manually!");
+inline constexpr auto kNoClearAnswer = TextRow(
+    "link", "Clear Data Acknowledge Not Received!\r\nPlease Clear The Data In The Talvex© K42");
 // %1 is a file, %2 the system's reason.
 inline constexpr auto kNotClearedUnsafe =
     TextRow("link", "The instrument was not cleared: %1 is not safe on disk: %2");

@@ -1,10 +1,10 @@
 #include "link/ReceivedFileCheck.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <string_view>
 
-#include "data/FixedLine.h"
 #include "data/NumberText.h"
 #include "data/TextLines.h"
 #include "platform/AsciiText.h"
@@ -25,11 +25,10 @@ std::optional<std::string_view> Behind(std::string_view line, std::string_view m
     return line.substr(found + marker.size());
 }
 
-void TakeHeader(std::string_view line, CheckedFile& checked) {
-    if (const auto text = Behind(line, kInstrument)) checked.Instrument = Trimmed(*text);
-    if (const auto count = Behind(line, kEndData)) {
-        checked.Expected = LeadingNumber(std::string(*count));
-    }
+// What a line promises, if it is one that does.
+std::optional<double> PromisedCount(std::string_view line) {
+    const auto count = Behind(line, kEndData);
+    return count ? std::optional(LeadingNumber(*count)) : std::nullopt;
 }
 
 }  // namespace
@@ -38,13 +37,16 @@ CheckedFile CheckReceivedFile(InputFile& file, const std::function<bool()>& keep
     CheckedFile checked;
     TextLines lines(file);
     std::string_view line;
+    std::array<char, kDataLineLength> last{};
+    bool dataLine = false;
     for (std::int64_t number = 0; lines.Next(line); ++number) {
         if (number % kLinesPerTurn == 0 && !keepGoing()) {
             checked.Outcome = Error{ECANCELED, "cancelled"};
             return checked;
         }
-        if (std::count(line.begin(), line.end(), ',') != 2) {
-            TakeHeader(line, checked);
+        dataLine = std::count(line.begin(), line.end(), ',') == 2;
+        if (!dataLine) {
+            if (const auto count = PromisedCount(line)) checked.Expected = count;
             continue;
         }
         ++checked.Counted;
@@ -52,10 +54,13 @@ CheckedFile CheckReceivedFile(InputFile& file, const std::function<bool()>& keep
             checked.BadLine = line;
             return checked;
         }
-        // The last line of all says the count even where it looks like a data line; a later line
-        // takes this back.
+        std::copy(line.begin(), line.end(), last.begin());
     }
     checked.Outcome = lines.Outcome();
+    // the last line of all may promise the count in the shape of a data line, too
+    if (dataLine) {
+        if (const auto count = PromisedCount({last.data(), last.size()})) checked.Expected = count;
+    }
     return checked;
 }
 

@@ -17,8 +17,6 @@ struct CheckedFile {
     std::optional<double> Expected;  // what the last "END DATA:" says; nothing without one
     // The first data line of wrong length, where checking ended. Bytes.
     std::optional<std::string> BadLine;
-    // Of the last "INSTRUMENT:" line, trimmed. Bytes.
-    std::string Instrument;
     // Whether it was read to its end or to the bad line, and if not why.
     Status Outcome;
 };

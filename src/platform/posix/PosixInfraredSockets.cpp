@@ -53,9 +53,7 @@ class KernelInfraredSocket final : public InfraredSocket {
     }
 
     Result<std::size_t> Send(std::string_view bytes) override { return Send(bytes, 0); }
-    Result<std::size_t> SendUrgent(std::string_view bytes) override {
-        return Send(bytes, MSG_OOB);
-    }
+    Result<std::size_t> SendUrgent(std::string_view bytes) override { return Send(bytes, MSG_OOB); }
     bool Writable() override { return WaitFor(POLLOUT, 0); }
 
     Result<ReceivedBlock> Receive() override {

@@ -34,7 +34,8 @@ class WinsockInfraredSocket final : public InfraredSocket {
         int length = static_cast<int>(devices.size());
         // Winsock itself looks around here, about a second where somebody is in range; there is no
         // way to break that off.
-        if (::getsockopt(socket_, kInfraredLevel, kEnumerateDevices, devices.data(), &length) == 0) {
+        if (::getsockopt(socket_, kInfraredLevel, kEnumerateDevices, devices.data(), &length) ==
+            0) {
             return true;
         }
         // a socket that does not wait reports nobody in range in this way
@@ -69,9 +70,7 @@ class WinsockInfraredSocket final : public InfraredSocket {
     }
 
     Result<std::size_t> Send(std::string_view bytes) override { return Send(bytes, 0); }
-    Result<std::size_t> SendUrgent(std::string_view bytes) override {
-        return Send(bytes, MSG_OOB);
-    }
+    Result<std::size_t> SendUrgent(std::string_view bytes) override { return Send(bytes, MSG_OOB); }
     bool Writable() override {
         fd_set writable = OnlyThis();
         timeval wait{0, 0};
