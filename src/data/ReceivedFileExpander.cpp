@@ -18,12 +18,15 @@ constexpr std::size_t kRoom = 128 + kPiece;
 
 }  // namespace
 
-ReceivedFileExpander::ReceivedFileExpander(Files& files, std::string_view previousLine)
-    : files_(files) {
-    previous_.Bytes = previousLine;
-    previous_.Bytes.resize(previousLine.size() + kRoom);
-    previous_.Length = previousLine.size();
+ReceivedFileExpander::ReceivedFileExpander(Files& files) : files_(files) {
+    SetPreviousLine({});
     line_.Bytes.resize(kRoom);
+}
+
+void ReceivedFileExpander::SetPreviousLine(std::string_view line) {
+    previous_.Bytes = line;
+    previous_.Bytes.resize(line.size() + kRoom);
+    previous_.Length = line.size();
 }
 
 Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(

@@ -21,9 +21,7 @@ class ReceivedFileExpander {
     // of data files drop such lines altogether.
     static constexpr std::size_t kLongestLine = 1 << 20;
 
-    // `previousLine` (line end included) is what stands above the first line of the first transfer;
-    // nothing, unless a transfer is to be repeated as it was.
-    explicit ReceivedFileExpander(Files& files, std::string_view previousLine = {});
+    explicit ReceivedFileExpander(Files& files);
 
     // Writes the data file durably, replacing one of that name. The number of lines written; an
     // unfinished last line is not. The line that the last transfer ended with goes on serving as
@@ -35,6 +33,8 @@ class ReceivedFileExpander {
     // The line above the first one of the next transfer, with its line end; empty when there is
     // none.
     std::string PreviousLine() const { return previous_.Bytes.substr(0, previous_.Length); }
+    // Puts another line there, to repeat a transfer as it was.
+    void SetPreviousLine(std::string_view line);
 
   private:
     // A line in a buffer that is always longer than the line by the room that one byte of a stream

@@ -62,6 +62,8 @@ class IrdaTransport {
     ReceivedText ReceiveText();
     // Closes the socket, if one is open.
     void CloseInstrument();
+    // Waits the short while that a receive without data waits.
+    void Rest() { needs_.Sockets.Rest(); }
     // The counterpart of StartSockets; does nothing when that has not succeeded.
     void StopSockets();
 

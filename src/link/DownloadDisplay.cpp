@@ -1,0 +1,17 @@
+#include "link/DownloadDisplay.h"
+
+#include "link/LinkTexts.h"
+
+namespace brask {
+
+std::string RateText(const Texts& texts, std::int64_t bytes, std::int64_t elapsedTenths) {
+    const std::string length = std::to_string(bytes);
+    if (elapsedTenths <= 0) return length;
+    // in tenths of a byte a second, rounded
+    const std::int64_t rate = (bytes * 100 + elapsedTenths / 2) / elapsedTenths;
+    std::string whole = std::to_string(rate / 10);
+    for (std::size_t at = whole.size(); at > 3; at -= 3) whole.insert(at - 3, 1, ',');
+    return texts.Fill(link_texts::kRate, {length, whole + "." + std::to_string(rate % 10)});
+}
+
+}  // namespace brask
