@@ -120,12 +120,12 @@ bool DownloadSession::AwaitConnection() {
 
 // Receives until the data have ended or no more come; false when the session is to be cancelled.
 bool DownloadSession::Receive() {
+    Enter(DownloadStep::kReceiving);
     SetPrompt(false);
     ClearLabels();
     display_.Bytes = 0;
     begun_ = system_.Time.SteadyMilliseconds();
     SetLabel(0, system_.Words.Find(kDataTransfer));
-    Enter(DownloadStep::kReceiving);
     IdleTimer idle(system_.Time, IdleTimer::kWaiting);
     while (!idle.RunOut()) {
         if (!KeepGoing()) return false;
@@ -216,8 +216,8 @@ bool DownloadSession::SafeOnDisk() {
 
 void DownloadSession::ClearInstrument() {
     if (!SafeOnDisk() || !KeepGoing()) return;
-    SetLabel(0, system_.Words.Find(kClearing));
     Enter(DownloadStep::kClearing);
+    SetLabel(0, system_.Words.Find(kClearing));
     if (transport_.SendText(kClearCommand) == 0) {
         ShowText(kNoClearAnswer);
         return;

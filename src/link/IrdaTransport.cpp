@@ -116,8 +116,10 @@ std::int64_t IrdaTransport::SendUrgent(std::string_view text) {
 }
 
 ReceivedText IrdaTransport::ReceiveText() {
-    for (int turn = 0; turn < kTurnsBeforeReceive; ++turn) needs_.User.LetEventsRun();
-    if (!socket_ || needs_.User.Ended()) return {};
+    for (int turn = 0; turn < kTurnsBeforeReceive; ++turn) {
+        if (!needs_.KeepGoing()) return {};
+    }
+    if (!socket_) return {};
     auto received = socket_->Receive();
     if (!received.Ok()) {
         statusText_ = Note(received.Why());

@@ -1,7 +1,6 @@
-#include "platform/NativeSystem.h"
-
 #include <cerrno>
 
+#include "platform/NativeSystem.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixInfraredSockets.h"
