@@ -16,9 +16,8 @@ inline constexpr auto kOptionTakesNoValue = TextRow("cli", "option %1 takes no v
 inline constexpr auto kNotAChoice = TextRow("cli", "option %1: %2 is none of %3");
 inline constexpr auto kNotACount = TextRow("cli", "option %1: %2 is no whole number from 0 on");
 inline constexpr auto kEmptyValue = TextRow("cli", "option %1: the value is empty");
-inline constexpr auto kTooFewArguments = TextRow("cli", "an argument is missing: brask %1 %2");
-inline constexpr auto kTooManyArguments =
-    TextRow("cli", "%1 is one argument too many: brask %2 %3");
+inline constexpr auto kTooFewArguments = TextRow("cli", "an argument is missing: %1");
+inline constexpr auto kTooManyArguments = TextRow("cli", "%1 is one argument too many: %2");
 inline constexpr auto kOptionMissing = TextRow("cli", "option %1 is missing: brask %2 %3");
 inline constexpr auto kBadSettingsUse =
     TextRow("cli", "say \"settings list\", \"settings get KEY\" or \"settings set KEY VALUE\"");
