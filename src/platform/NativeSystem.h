@@ -6,6 +6,8 @@
 
 #include "platform/Clock.h"
 #include "platform/Files.h"
+#include "platform/InfraredSockets.h"
+#include "platform/InstrumentAddress.h"
 #include "platform/Programs.h"
 #include "platform/StopSignal.h"
 #include "platform/SystemInformation.h"
@@ -29,6 +31,9 @@ class NativeSystem {
     const Clock& Time() const;
     const UserLocale& Locale() const;
     const SystemInformation& Information() const;
+    // The link that leads to this instrument; whether anybody is there shows only when it is used.
+    // Never null; must not outlive this object.
+    std::unique_ptr<InfraredSockets> LinkTo(const InstrumentAddress& address);
     // From now on, as long as the result lives, a wish that this program ends is kept for it. Never
     // null.
     std::unique_ptr<StopSignal> WatchStopSignal();
