@@ -115,6 +115,13 @@ Status WindowsFiles::Append(const std::string& path, std::string_view bytes) {
     return {};
 }
 
+Status WindowsFiles::Flush(const std::string& path) {
+    // The name of a file is on disk with the file: the system writes both in one journal.
+    const Handle handle(CreateFileW(NativePath(path).c_str(), GENERIC_WRITE, kShareAll, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return handle.Open() && FlushFileBuffers(handle.Get()) != 0 ? Status() : LastError();
+}
+
 Result<std::string> WindowsFiles::CreateTemporary(const std::string& namePrefix) {
     wchar_t directory[MAX_PATH + 1] = L"";
     // ends in a separator

@@ -11,6 +11,38 @@ namespace {
 
 using windows::Handle;
 
+// The streams of a program; its standard input is empty.
+STARTUPINFOW With(const Handle& in, const Handle& out, const Handle& error) {
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdInput = in.Get();
+    start.hStdOutput = out.Get();
+    start.hStdError = error.Get();
+    return start;
+}
+
+// Null when the program cannot be started.
+Handle Start(const std::string& program, const std::vector<std::string>& words,
+             STARTUPINFOW streams) {
+    const std::string file = BRASK_BIN "/" + program + ".exe";
+    std::wstring line = windows::CommandLineOf(file, words);
+    PROCESS_INFORMATION started{};
+    // a group of its own, so that an interrupt reaches it alone
+    if (CreateProcessW(windows::NativePath(file).c_str(), line.data(), nullptr, nullptr, TRUE,
+                       CREATE_NEW_PROCESS_GROUP, nullptr, nullptr, &streams, &started) == 0) {
+        return Handle();
+    }
+    CloseHandle(started.hThread);
+    return Handle(started.hProcess);
+}
+
+int StatusOf(const Handle& process) {
+    DWORD status = 0;
+    WaitForSingleObject(process.Get(), INFINITE);
+    return GetExitCodeProcess(process.Get(), &status) != 0 ? static_cast<int>(status) : -1;
+}
+
 // A file that the started program may use.
 Handle Inherited(const std::string& path, DWORD access, DWORD creation) {
     SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
@@ -19,32 +51,57 @@ Handle Inherited(const std::string& path, DWORD access, DWORD creation) {
                               FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
+class Child final : public RunningProgram {
+  public:
+    Child(Handle process, Handle output)
+        : process_(std::move(process)), output_(std::move(output)) {}
+    ~Child() override { TerminateProcess(process_.Get(), 1); }
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+
+    std::string ReadLine() override {
+        std::string line;
+        char c = 0;
+        DWORD count = 0;
+        while (ReadFile(output_.Get(), &c, 1, &count, nullptr) != 0 && count == 1 && c != '\n') {
+            line += c;
+        }
+        return line;
+    }
+    void Interrupt() const override {
+        GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(process_.Get()));
+    }
+    int ExitStatus() override { return StatusOf(process_); }
+
+  private:
+    Handle process_;
+    Handle output_;
+};
+
 }  // namespace
 
 int RunToEnd(const std::string& program, const std::vector<std::string>& words,
              const ProgramStreams& streams) {
-    const std::string file = BRASK_BIN "/" + program + ".exe";
-    std::wstring line = windows::CommandLineOf(file, words);
     const Handle in = Inherited("NUL", GENERIC_READ, OPEN_EXISTING);
     const Handle out = Inherited(streams.Out, GENERIC_WRITE, CREATE_ALWAYS);
     const Handle error = Inherited(streams.Error, GENERIC_WRITE, CREATE_ALWAYS);
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdInput = in.Get();
-    start.hStdOutput = out.Get();
-    start.hStdError = error.Get();
-    PROCESS_INFORMATION started{};
-    if (CreateProcessW(windows::NativePath(file).c_str(), line.data(), nullptr, nullptr, TRUE, 0,
-                       nullptr, nullptr, &start, &started) == 0) {
-        return -1;
-    }
-    const Handle process(started.hProcess);
-    const Handle thread(started.hThread);
-    WaitForSingleObject(process.Get(), INFINITE);
-    DWORD status = 0;
-    GetExitCodeProcess(process.Get(), &status);
-    return static_cast<int>(status);
+    const Handle process = Start(program, words, With(in, out, error));
+    return process.Open() ? StatusOf(process) : -1;
+}
+
+std::unique_ptr<RunningProgram> StartProgram(const std::string& program,
+                                             const std::vector<std::string>& words) {
+    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
+    HANDLE ours = nullptr;
+    HANDLE its = nullptr;
+    CreatePipe(&ours, &its, &inherit, 0);
+    Handle output(ours);
+    // what the program would inherit of our end would keep the pipe open
+    SetHandleInformation(ours, HANDLE_FLAG_INHERIT, 0);
+    const Handle out(its);
+    const Handle in = Inherited("NUL", GENERIC_READ, OPEN_EXISTING);
+    const Handle error = Inherited("NUL", GENERIC_WRITE, OPEN_EXISTING);
+    return std::make_unique<Child>(Start(program, words, With(in, out, error)), std::move(output));
 }
 
 // The user's folders and settings are the system's business; tests that use them clean up.
