@@ -32,7 +32,7 @@ void Document::Open(const std::string& path, DataSource source) {
     // absolute, since the list of recent files outlives the directory that the program runs in
     session_.Data.CurrentDataFile = system_.Disk.Absolute(path);
     // the curves look into the arrays that the load re-creates while events run
-    plotting_.Plot.Clear();
+    plotting_.Builder.Clear();
     view_->ShowChart();
     const std::string title = system_.Words.Find(data_texts::kProgramTitle);
     // a caption with the old name would stand over readings that are gone
