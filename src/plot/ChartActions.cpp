@@ -132,7 +132,7 @@ void ChartActions::MoveToReading(ChartAction action, ChartPoint from) {
             target = extreme(action == kCursorUpFast, chart_.Original.X);
             break;
         default:
-            return;
+            break;
     }
     SelectPoint({from.Curve, target});
 }
