@@ -16,13 +16,22 @@ constexpr std::size_t kPiece = 32;
 // what one byte of a stream can need behind a line
 constexpr std::size_t kRoom = 128 + kPiece;
 
-// The pieces may overlap where the line above is short.
-void CopyPieces(const char* from, char* to, std::size_t count) {
+// In front of the lines, so that there always is a last character to look at.
+constexpr std::size_t kFront = 1;
+
+// Copies `count` characters of the line above, from a column on; how many there were. A repeat
+// beyond the end of that line stands for nothing; damaged streams hold such.
+std::size_t Repeat(std::string_view previous, std::size_t column, std::size_t count, char* to) {
+    if (column >= previous.size()) return 0;
+    count = std::min(count, previous.size() - column);
+    const char* const from = previous.data() + column;
     for (std::size_t copied = 0; copied < count; copied += kPiece) {
+        // by way of a piece of its own, since the two overlap where the line above is short
         char piece[kPiece];
         std::memcpy(piece, from + copied, kPiece);
         std::memcpy(to + copied, piece, kPiece);
     }
+    return count;
 }
 
 }  // namespace
@@ -49,7 +58,7 @@ Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(
     ReplacementFile& output = *started.Value();
 
     SetPreviousLine(PreviousLine());
-    written_ = line_ = end_ = 0;
+    written_ = line_ = end_ = kFront;
     lineCount_ = 0;
     instrumentSeen_ = false;
     std::string block(kBlockSize, '\0');
@@ -74,22 +83,15 @@ Status ReceivedFileExpander::ExpandBlock(std::string_view block, ReplacementFile
     const char* previous = Previous();
     for (const char c : block) {
         const auto byte = static_cast<unsigned char>(c);
-        if (byte >= kFirstRepeat) {
-            const auto column = static_cast<std::size_t>(to - line);
-            // A repeat beyond the end of the line above stands for nothing; damaged streams hold
-            // such.
-            if (column >= previousLength_) continue;
-            const std::size_t count =
-                std::min<std::size_t>(byte - kFirstRepeat, previousLength_ - column);
-            CopyPieces(previous + column, to, count);
-            to += count;
-            // repeats may reach over the line end above
-            if (to < limit && (count == 0 || to[-1] != '\n')) continue;
+        if (byte == 0) continue;
+        if (byte < kFirstRepeat) {
+            *to++ = c;
         } else {
-            *to = c;
-            to += byte == 0 ? 0 : 1;
-            if (to < limit && byte != '\n') continue;
+            const auto column = static_cast<std::size_t>(to - line);
+            to += Repeat({previous, previousLength_}, column, byte - kFirstRepeat, to);
         }
+        // Also for a repeat; it may reach over the line end above.
+        if (to < limit && to[-1] != '\n') continue;
         end_ = static_cast<std::size_t>(to - lines_.data());
         if (end_ > line_ && to[-1] == '\n') EndLine();
         end_ = std::min(end_, line_ + kLongestLine);
@@ -144,9 +146,9 @@ void ReceivedFileExpander::EndLine() {
 Status ReceivedFileExpander::MakeRoom(ReplacementFile& output) {
     Status written = output.Write(std::string_view(lines_).substr(written_, line_ - written_));
     const std::size_t from = previousApart_ ? line_ : line_ - previousLength_;
-    std::memmove(lines_.data(), lines_.data() + from, end_ - from);
-    line_ -= from;
-    end_ -= from;
+    std::memmove(lines_.data() + kFront, lines_.data() + from, end_ - from);
+    line_ -= from - kFront;
+    end_ -= from - kFront;
     written_ = line_;
     if (end_ > lines_.size() / 2) lines_.resize(2 * lines_.size());
     return written;
