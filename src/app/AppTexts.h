@@ -60,7 +60,7 @@ inline constexpr auto kDoNotMarkPoints = TextRow("app", "Do Not Mark Individual 
 inline constexpr auto kMarkPoints = TextRow("app", "Mark Individual Data Points");
 // The row below the plot.
 inline constexpr auto kFindLabel = TextRow("app", "Date and &Time:");
-inline constexpr auto kFindPoint = TextRow("app", "Find P&oint");
+inline constexpr auto kFindPoint = TextRow("app", "Fi&nd Point");
 
 // Headings of the grid; %1 is the unit, °C or °F.
 inline constexpr auto kColumnResult = TextRow("app", "Result");

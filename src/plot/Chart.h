@@ -70,6 +70,9 @@ struct TickLabel {
 struct XAxisLabels {
     std::vector<TickLabel> Custom;  // used unless a date format is set
     std::string DateFormat;         // such as "%d-%b-%Y\n%X"; empty for a numeric axis
+    // How much of a numeric axis one day takes: views that show next to none of the table's labels
+    // then get times of day instead. 0 for an axis that shows no time.
+    double UnitsPerDay = 0;
 };
 
 struct MarkerStyle {
