@@ -72,6 +72,8 @@ class Files {
     virtual Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) = 0;
     // Adds bytes at the end of a file, which is created when missing.
     virtual Status Append(const std::string& path, std::string_view bytes) = 0;
+    // Has what was appended to a file, and its name, written to disk; survives a power cut when Ok.
+    virtual Status Flush(const std::string& path) = 0;
     // A new empty file of a name that nobody else has; the caller removes it. Lies in the system's
     // temporary directory; the result is its full path.
     virtual Result<std::string> CreateTemporary(const std::string& namePrefix) = 0;

@@ -1,19 +1,12 @@
 #include "platform/IniFile.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "platform/AsciiText.h"
+#include "platform/PercentCode.h"
 
 namespace brask {
 namespace {
-
-int HexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    return -1;
-}
 
 std::string Encode(std::string_view text, bool isKey) {
     std::string encoded;
@@ -28,27 +21,9 @@ std::string Encode(std::string_view text, bool isKey) {
             encoded += c;
             continue;
         }
-        char code[4];
-        std::snprintf(code, sizeof code, "%%%02X", static_cast<unsigned char>(c));
-        encoded += code;
+        AppendPercentCode(encoded, c);
     }
     return encoded;
-}
-
-std::string Decode(std::string_view text) {
-    std::string decoded;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        // A "%" that no two hexadecimal digits follow stands for itself: people type it by hand.
-        const int high = text[i] == '%' && i + 2 < text.size() ? HexDigit(text[i + 1]) : -1;
-        const int low = high >= 0 ? HexDigit(text[i + 2]) : -1;
-        if (low < 0) {
-            decoded += text[i];
-            continue;
-        }
-        decoded += static_cast<char>(high * 16 + low);
-        i += 2;
-    }
-    return decoded;
 }
 
 // Blanks that count for nothing at the ends; a CR is left by editors of other systems.
@@ -86,8 +61,8 @@ Result<IniFile> IniFile::Parse(std::string_view content) {
         if (equals == std::string_view::npos) {
             return Error{0, "line " + std::to_string(number) + " is no Key=Value line"};
         }
-        file.lines_.push_back({section, Decode(Trimmed(line.substr(0, equals), kBlanks)),
-                               Decode(Trimmed(line.substr(equals + 1), kBlanks)), true});
+        file.lines_.push_back({section, PercentDecoded(Trimmed(line.substr(0, equals), kBlanks)),
+                               PercentDecoded(Trimmed(line.substr(equals + 1), kBlanks)), true});
     }
     return file;
 }
