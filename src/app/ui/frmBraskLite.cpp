@@ -10,6 +10,7 @@
 #include "data/DataTexts.h"
 #include "data/DateTime.h"
 #include "data/WindowsVersion.h"
+#include "handheld/SyncSoftware.h"
 #include "platform/qt/QtText.h"
 
 namespace brask {
