@@ -113,6 +113,11 @@ void JsonWriter::IntegerMember(std::string_view key, std::int64_t value) {
     Integer(value);
 }
 
+void JsonWriter::BoolMember(std::string_view key, bool value) {
+    Key(key);
+    Value(value ? "true" : "false");
+}
+
 void JsonWriter::NullMember(std::string_view key) {
     Key(key);
     Null();

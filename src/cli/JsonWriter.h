@@ -35,6 +35,7 @@ class JsonWriter {
     void Member(std::string_view key, std::string_view text);
     void Member(std::string_view key, double value);
     void IntegerMember(std::string_view key, std::int64_t value);
+    void BoolMember(std::string_view key, bool value);
     void NullMember(std::string_view key);
     void Member(std::string_view key, std::span<const std::string> texts);
     void Member(std::string_view key, std::span<const double> values);

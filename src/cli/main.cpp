@@ -8,6 +8,7 @@
 #include "cli/ListCommand.h"
 #include "cli/PlotCommand.h"
 #include "cli/PlotRequest.h"
+#include "cli/RetrieveCommand.h"
 #include "cli/SettingsCommand.h"
 #include "cli/Shell.h"
 
@@ -27,6 +28,8 @@ const auto kCommands = std::to_array<brask::CommandRow>({
      brask::DrawingOptions(), 1, 1, brask::RunPlot},
     {"expand", "RAW -o OUT", TextRow("cli", "expand a received stream into a data file"),
      brask::ExpandOptions(), 1, 1, brask::RunExpand},
+    {"retrieve", "", TextRow("cli", "collect the readings of a handheld"), brask::RetrieveOptions(),
+     0, 0, brask::RunRetrieve},
     {"settings",
      "list | get KEY | set KEY VALUE",
      TextRow("cli", "show or change stored options"),
