@@ -21,6 +21,11 @@ inline constexpr auto kOpenTitle = TextRow("app", "Select Talvex© K42 Data File
 inline constexpr auto kOpenFilter = TextRow("app", "All Files|*.*|CSV Files|*.csv");
 inline constexpr auto kSaveTitle = TextRow("app", "Save Data as");
 inline constexpr auto kSaveFilter = TextRow("app", "CSV File|*.csv|All Files|*.*");
+inline constexpr auto kHandheldFolder =
+    TextRow("app", "Select The Folder Of The Handheld Or Its Card");
+// A notice in the status bar; %1 is what was typed.
+inline constexpr auto kBadHandheld =
+    TextRow("app", "%1 is no address of a handheld: say \"rapi\" or \"dir:\" and a folder");
 // A notice in the status bar; %1 is the full path.
 inline constexpr auto kDataSaved = TextRow("app", "Data saved: %1");
 
@@ -80,6 +85,8 @@ inline constexpr auto kUsageSettings =
     TextRow("app", "keep settings in this INI file instead of the user's own store");
 inline constexpr auto kUsageRoot = TextRow("app", "base directory of the data directories");
 inline constexpr auto kUsageOrder = TextRow("app", "override the date order: mdy, dmy or ymd");
+inline constexpr auto kUsageHandheld = TextRow("app", "link to the handheld: rapi or dir:PATH");
+inline constexpr auto kUsageBadHandheld = TextRow("app", "--handheld takes rapi or dir:PATH");
 inline constexpr auto kUsageBadOrder = TextRow("app", "--date-order takes mdy, dmy or ymd");
 inline constexpr auto kUsageOneFile = TextRow("app", "one FILE at most");
 

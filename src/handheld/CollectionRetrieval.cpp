@@ -111,17 +111,17 @@ void CollectionRetrieval::ListFolder(const std::string& folder) {
 
 void CollectionRetrieval::Retrieve(std::size_t number) {
     RetrievalRow& row = rows_[number];
-    view_.SelectRow(number);
+    view_.ShowRow(number, row);
     view_.ShowStatus(parts_.Words.Fill(kCopying, {row.Name}));
     const CopyOutcome copy = copy_.CopyToPc(row.Name);
     Copied(copy);
     row.Status = copy.Problem;
     if (!MayGoOn()) {
-        view_.ShowRows(rows_);
+        view_.ShowRow(number, row);
         return;
     }
     row.Downloaded = true;
-    view_.ShowRows(rows_);
+    view_.ShowRow(number, row);
 
     // whatever became of the copy: users know the handheld to be empty afterwards
     view_.ShowStatus(parts_.Words.Fill(kDeleting, {row.Name}));
@@ -133,7 +133,7 @@ void CollectionRetrieval::Retrieve(std::size_t number) {
     };
     if (!deleted.Ok()) add(parts_.TextOf(deleted.Why()));
     for (const std::string& note : deletion_.NotesOf(row.Name)) add(note);
-    view_.ShowRows(rows_);
+    view_.ShowRow(number, row);
 }
 
 void CollectionRetrieval::Copied(const CopyOutcome& copy) {

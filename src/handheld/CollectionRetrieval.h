@@ -31,9 +31,10 @@ class RetrievalView {
     virtual void ShowWaiting(bool /*waiting*/) {}
     // One line, UTF-8.
     virtual void ShowStatus(const std::string& /*text*/) {}
-    // There are other rows, or a row has changed.
+    // All rows, once, when they are known.
     virtual void ShowRows(const std::vector<RetrievalRow>& /*rows*/) {}
-    virtual void SelectRow(std::size_t /*row*/) {}
+    // A row is worked on: at its begin, and whenever it has changed.
+    virtual void ShowRow(std::size_t /*number*/, const RetrievalRow& /*row*/) {}
 };
 
 enum class RetrievalOutcome {

@@ -10,7 +10,6 @@
 #include "data/DataTexts.h"
 #include "data/DateTime.h"
 #include "data/WindowsVersion.h"
-#include "handheld/SyncSoftware.h"
 #include "platform/qt/QtText.h"
 
 namespace brask {
@@ -45,6 +44,8 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session, const P
     files_ = std::make_unique<FileCommands>(
         system_, FileCommandParts{document_, commands_, recent_, session_.Directories, choosers},
         *this);
+    handheld_ = std::make_unique<HandheldCommand>(
+        system_, session_, HandheldCommandParts{document_, commands_, choosers}, *this);
     // before the menus: an item whose command is unknown starts disabled
     RegisterCommands();
     menus_ = std::make_unique<MenuBar>(*menuBar(), system_.Words, commands_);
@@ -72,6 +73,7 @@ void frmBraskLite::BuildPages() {
     // only when all pages are there: adding the first one selects it
     connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { SSTab1_Click(tab); });
     connect(SSTab1, &TabControl::DisabledTabClicked, this, [this](int tab) { SSTab1_Click(tab); });
+    handheld_->Serve(*programOptions_);
     connect(graphOptions_, &GraphOptionsPage::GraphTypeChosen, this,
             [this](int index) { optGraph_Click(index); });
     connect(graphOptions_, &GraphOptionsPage::TemperatureUnitChosen, this,
@@ -108,7 +110,7 @@ void frmBraskLite::FormLoad() {
     graphOptions_->ShowColors(colors);
     helpFile_ = HelpFilePath(programDirectory, system_.Disk.Separator());
     SSTab1->setCurrentIndex(kGraphTab);
-    CheckSyncSoftware();
+    handheld_->WarnOfMissingSoftware();
     Toolbar1->SyncToolbarButton("PocketPC");
     ShowRecentFiles();
     // only now: before, a change would meet controls that are not made yet
@@ -144,11 +146,6 @@ void frmBraskLite::ShowDirectories(const ProgramOptions& options) {
     shown.UserDirectory = ToQt(system_.Disk.Folder(KnownFolder::kUserDocuments));
     shown.UserName = ToQt(system_.Information.UserName());
     programOptions_->ShowOptions(options, shown);
-}
-
-// Once the software is found its absence need not be warned of any more, should it come back.
-void frmBraskLite::CheckSyncSoftware() {
-    if (SyncSoftwareInstalled(system_.Disk)) session_.Options.Save("NeverWarn", "NO");
 }
 
 void frmBraskLite::ShowCaption(const std::string& caption) { setWindowTitle(ToQt(caption)); }

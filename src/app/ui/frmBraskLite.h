@@ -10,6 +10,7 @@
 #include "app/ui/FileCommands.h"
 #include "app/ui/GraphOptionsPage.h"
 #include "app/ui/GraphPage.h"
+#include "app/ui/HandheldCommand.h"
 #include "app/ui/MenuBar.h"
 #include "app/ui/ProgramOptionsPage.h"
 #include "app/ui/StatusBar.h"
@@ -47,6 +48,9 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     // Opens a data file from disk.
     // Returns when the load has ended; ignored while another one runs.
     void OpenFile(const QString& path) { files_->OpenFile(path); }
+    // Takes this handheld instead of the stored one. For the command line.
+    // Before FormLoad, whose notice depends on it.
+    void OverrideHandheld(const HandheldAddress& address) { handheld_->Override(address); }
     // Whether the stored options ask for a maximized window.
     // Known after FormLoad.
     bool OpensMaximized() const { return opensMaximized_; }
@@ -71,8 +75,6 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     // Steps of the start-up.
     void LoadOptions();  // stored options into controls, under the loading guard
     void ShowDirectories(const ProgramOptions& options);
-    // Looks for the handheld's synchronization program.
-    void CheckSyncSoftware();
 
     // The document's calls. An empty chart means that the readings are about to go.
     void ShowCaption(const std::string& caption) override;
@@ -113,6 +115,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
 
     std::unique_ptr<MenuBar> menus_;
     std::unique_ptr<FileCommands> files_;
+    std::unique_ptr<HandheldCommand> handheld_;
     // Children of the window, which deletes them.
     Toolbar* Toolbar1 = nullptr;
     TabControl* SSTab1 = nullptr;

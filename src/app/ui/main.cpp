@@ -27,6 +27,7 @@ struct WindowArguments {
     QString Settings;
     QString Root;
     std::optional<LongDateOrder> DateOrder;
+    std::optional<HandheldAddress> Handheld;
 };
 
 std::optional<LongDateOrder> DateOrderNamed(const QString& name) {
@@ -51,17 +52,25 @@ Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& te
                                   QStringLiteral("DIR"));
     const QCommandLineOption order(QStringLiteral("date-order"),
                                    ToQt(texts, app_texts::kUsageOrder), QStringLiteral("ORDER"));
-    parser.addOptions({settings, root, order});
+    const QCommandLineOption handheld(QStringLiteral("handheld"),
+                                      ToQt(texts, app_texts::kUsageHandheld),
+                                      QStringLiteral("ADDRESS"));
+    parser.addOptions({settings, root, order, handheld});
     if (!parser.parse(words)) return Error{0, FromQt(parser.errorText())};
     // only after unknown words were refused
     if (parser.isSet(help)) parser.showHelp();
     if (parser.isSet(version)) parser.showVersion();
     const auto named = DateOrderNamed(parser.value(order));
     if (parser.isSet(order) && !named) return Error{0, texts.Find(app_texts::kUsageBadOrder)};
+    std::optional<HandheldAddress> link;
+    if (parser.isSet(handheld)) {
+        link = ParseHandheldAddress(FromQt(parser.value(handheld)));
+        if (!link) return Error{0, texts.Find(app_texts::kUsageBadHandheld)};
+    }
     if (parser.positionalArguments().size() > 1)
         return Error{0, texts.Find(app_texts::kUsageOneFile)};
     return WindowArguments{parser.positionalArguments().value(0), parser.value(settings),
-                           parser.value(root), named};
+                           parser.value(root), named, link};
 }
 
 // Before there is an application for the windows: --help needs no display.
@@ -110,6 +119,7 @@ int RunWindow(int argc, char** argv) {
     frmBraskLite window(system, session, {chart, builder}, choosers);
     // before FormLoad, whose messages belong to the window
     user.SetViews(&window, &window.Progress(), &window.Notices());
+    if (line.Handheld) window.OverrideHandheld(*line.Handheld);
     window.FormLoad();
     // a start-up message was answered with leaving; without an event loop yet, quitting has no
     // effect of its own
