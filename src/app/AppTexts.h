@@ -49,6 +49,17 @@ inline constexpr auto kAdvice =
             "file can also be dropped on this window.");
 inline constexpr auto kRecentHeading = TextRow("app", "Recent files");
 inline constexpr auto kClearList = TextRow("app", "&Clear List");
+// What the plot and its scroll bar are called for those who hear them.
+inline constexpr auto kPlotName = TextRow("app", "Plot of the readings");
+inline constexpr auto kScrollName = TextRow("app", "Visible part of the plot");
+// The description of the plot: readout of the selected point, visible range.
+inline constexpr auto kPlotDescription = TextRow("app", "%1. Visible range: %2");
+// Captions of the command that switches the axis: each names the axis that the next use activates.
+inline constexpr auto kActivateTemperature = TextRow("app", "Set Active &Y Axis To Temperature");
+inline constexpr auto kActivateGas = TextRow("app", "Set Active &Y Axis To Gas");
+// Tool tips of the button for marking the single readings, by what its next use does.
+inline constexpr auto kDoNotMarkPoints = TextRow("app", "Do Not Mark Individual Data Points");
+inline constexpr auto kMarkPoints = TextRow("app", "Mark Individual Data Points");
 // The row below the plot.
 inline constexpr auto kFindLabel = TextRow("app", "Date and &Time:");
 inline constexpr auto kFindPoint = TextRow("app", "Find P&oint");

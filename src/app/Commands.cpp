@@ -63,6 +63,8 @@ void Commands::SetBusy(bool busy) {
 }
 
 void Commands::SetAllowed(const std::string& name, bool allowed) {
+    // asked at every step of a pan: only a change is worth going through all menus
+    if (allowed == !withheld_.contains(name)) return;
     if (allowed) {
         withheld_.erase(name);
     } else {

@@ -18,7 +18,8 @@ Document::Document(const System& system, const Session& session, const Plotting&
       plotting_(plotting),
       commands_(commands),
       recent_(session.Options),
-      layout_(static_cast<GraphType>(session.Options.Index("GraphType", 3))) {}
+      layout_(static_cast<GraphType>(session.Options.Index("GraphType", 3))),
+      marksDataPoints_(session.Options.IsYes("UseDataMarkers")) {}
 
 std::string Document::StartCaption() const {
     return system_.Words.Fill(kCaptionNoData, {system_.Words.Find(data_texts::kProgramTitle)});
@@ -33,6 +34,8 @@ void Document::Open(const std::string& path, DataSource source) {
     session_.Data.CurrentDataFile = system_.Disk.Absolute(path);
     // the curves look into the arrays that the load re-creates while events run
     plotting_.Plot.Clear();
+    plotting_.Selection.Forget();
+    plotting_.Navigation.Forget();
     view_->ShowChart();
     const std::string title = system_.Words.Find(data_texts::kProgramTitle);
     // a caption with the old name would stand over readings that are gone
@@ -52,6 +55,7 @@ void Document::Open(const std::string& path, DataSource source) {
     }
     view_->ShowChart();
     view_->ShowReadings();
+    plotting_.Navigation.AfterRebuild();
 }
 
 LoadOutcome Document::Load() {
@@ -71,13 +75,53 @@ void Document::RebuildPlot() {
     if (commands_.Busy()) return;
     BuildPlot();
     view_->ShowChart();
+    plotting_.Navigation.AfterRebuild();
 }
 
 void Document::BuildPlot() {
     PlotOptions options = ReadPlotOptions(session_.Options, session_.Unit);
-    // a layout that could not be stored would come back here as the old one
+    // choices that could not be stored would come back here as the old ones
     options.Layout = layout_;
-    plotting_.Builder.Rebuild(options);
+    options.MarkDataPoints = marksDataPoints_;
+    plotting_.Navigation.BeforeRebuild();
+    {
+        const PointSelection::Suppression quiet(plotting_.Selection);
+        plotting_.Builder.Rebuild(options);
+    }
+    plotting_.Selection.Forget();
+    ReapplyPeriod();
+}
+
+void Document::ReapplyPeriod() {
+    DisplayPeriod& period = plotting_.Period;
+    if (!DisplayPeriod::Fits(period.Option, layout_)) {
+        period.Option = PeriodOption::kAllData;
+        session_.Options.Save("DisplayPeriod", "0");
+    }
+    // a range of dates starts anew with the plot: its boxes follow the axis
+    if (period.Option != PeriodOption::kTimes && period.Option != PeriodOption::kDays) return;
+    if (const auto window = period.Window(plotting_.Plot.Original.X)) {
+        plotting_.Plot.X.SetRange(window->Minimum, window->Maximum);
+    }
+}
+
+void Document::ToggleDataPoints() {
+    marksDataPoints_ = !marksDataPoints_;
+    session_.Options.SaveFlag("UseDataMarkers", marksDataPoints_);
+    plotting_.Navigation.KeepViews();
+    if (session_.Data.ReadingCount == 0 || commands_.Busy()) return;
+    const ViewRecord view = plotting_.Plot.View();
+    BuildPlot();
+    plotting_.Plot.X.SetRange(view.X.Minimum, view.X.Maximum);
+    plotting_.Plot.Y.SetRange(view.Y.Minimum, view.Y.Maximum);
+    plotting_.Plot.Y1.SetRange(view.Y1.Minimum, view.Y1.Maximum);
+    view_->ShowChart();
+    plotting_.Navigation.AfterRebuild();
+}
+
+void Document::SetStartWeekOn(int day) {
+    session_.Options.Save("StartWeekOn", std::to_string(day));
+    if (session_.Data.ReadingCount > 0 && layout_ == GraphType::kOverlapWeeks) RebuildPlot();
 }
 
 void Document::SetTemperatureUnit(bool fahrenheit) {

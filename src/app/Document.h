@@ -53,6 +53,12 @@ class Document {
     void SetTemperatureUnit(bool fahrenheit);
     // Stores the layout and rebuilds the plot.
     void SetGraphType(GraphType type);
+    // Stores the first day of the week; a plot of weeks is rebuilt.
+    void SetStartWeekOn(int day);
+    // Switches the marks at the single readings. The view stays where it is, and from now on every
+    // rebuild keeps the view it leaves for zooming out.
+    void ToggleDataPoints();
+    bool MarksDataPoints() const { return marksDataPoints_; }
     // As chosen in this run, or stored when none was.
     GraphType Layout() const { return layout_; }
     // The message about the file: its headers, first and last reading, count.
@@ -69,6 +75,9 @@ class Document {
     LoadOutcome Load();
     // Without telling the view.
     void BuildPlot();
+    // The stretch of a day or week that was chosen holds for the new plot too; one that its layout
+    // does not know gives way to all data.
+    void ReapplyPeriod();
 
     System system_;
     Session session_;
@@ -76,7 +85,9 @@ class Document {
     Commands& commands_;
     RecentFiles recent_;
     DocumentView* view_ = nullptr;
-    GraphType layout_;  // as chosen in this run, stored or not
+    // As chosen in this run, stored or not.
+    GraphType layout_;
+    bool marksDataPoints_;
 };
 
 }  // namespace brask

@@ -19,6 +19,15 @@ inline constexpr auto kDisplayTimes = TextRow("options", "Display Times from");
 inline constexpr auto kDisplayDays = TextRow("options", "Display Days from");
 // Stands between the two boxes of a period.
 inline constexpr auto kTo = TextRow("options", "to");
+// Names of the boxes for those who hear them, in the order of the rows.
+inline constexpr auto kFirstDate = TextRow("options", "First date to display");
+inline constexpr auto kLastDate = TextRow("options", "Last date to display");
+inline constexpr auto kFirstTime = TextRow("options", "First time of day to display");
+inline constexpr auto kLastTime = TextRow("options", "Last time of day to display");
+inline constexpr auto kFirstDay = TextRow("options", "First day to display");
+inline constexpr auto kLastDay = TextRow("options", "Last day to display");
+// %1 is the visible range.
+inline constexpr auto kShownNow = TextRow("options", "Shown now: %1");
 inline constexpr auto kSetDisplayPeriod = TextRow("options", "Set Display Period");
 
 // Its two options are the locale's own words for Sunday and Monday.

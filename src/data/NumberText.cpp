@@ -109,6 +109,15 @@ std::string FormatNumber(double value) {
     return {text, result.ptr};
 }
 
+std::string FormatPlainNumber(double value) {
+    constexpr int kDigits = 15;  // a double keeps all of them
+    char text[32];
+    // 0 is never negative to a reader
+    const auto result = std::to_chars(text, text + sizeof text, value == 0 ? 0 : value,
+                                      std::chars_format::general, kDigits);
+    return {text, result.ptr};
+}
+
 std::string FormatTenths(double value) {
     constexpr double kExactTenths = 1e14;  // beyond, a double has no tenths to round
     double rounded = value;

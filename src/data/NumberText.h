@@ -19,6 +19,10 @@ double LeadingNumber(std::string_view text);
 // The shortest text that reads back as exactly this number: "0.1", "1e+30".
 std::string FormatNumber(double value);
 
+// As people write it: at most 15 significant digits, so that 79.16 computed from 26.2 is "79.16",
+// and an exponent only for very large and very small numbers.
+std::string FormatPlainNumber(double value);
+
 // One decimal, rounded half away from zero, as the grid shows values ("##0.0"): "26.1".
 std::string FormatTenths(double value);
 

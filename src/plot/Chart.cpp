@@ -7,6 +7,9 @@
 namespace brask {
 namespace {
 
+// A quarter of a microsecond at today's dates: narrower views show the steps of the number format.
+constexpr double kFinestSpan = 1e-10;
+
 // Where "temp" begins in any letter case; npos when it does not occur.
 std::size_t FindTemp(const std::string& name) {
     constexpr std::string_view kTemp = "temp";
@@ -33,6 +36,37 @@ bool ChartAxisScale::SetMaximum(double maximum) {
     return true;
 }
 
+bool IsShowable(const AxisRange& range) {
+    if (!std::isfinite(range.Minimum) || !std::isfinite(range.Maximum)) return false;
+    // ends may be so far apart that their distance overflows
+    const double span = range.Maximum / 2 - range.Minimum / 2;
+    const double largest = std::max(std::abs(range.Minimum), std::abs(range.Maximum));
+    return span > 0 && std::isfinite(2 * span) && span > largest * kFinestSpan;
+}
+
+bool Chart::ShowView(const ViewRecord& view) {
+    // What the plot was built with can always be shown: a single reading has an X range of no
+    // width, and moving Y must work there too.
+    const auto acceptable = [](const AxisRange& range, const AxisRange& shown,
+                               const AxisRange& original) {
+        return range == shown || range == original || IsShowable(range);
+    };
+    if (!acceptable(view.X, X.Range(), Original.X) || !acceptable(view.Y, Y.Range(), Original.Y) ||
+        !acceptable(view.Y1, Y1.Range(), Original.Y1)) {
+        return false;
+    }
+    X.SetRange(view.X.Minimum, view.X.Maximum);
+    Y.SetRange(view.Y.Minimum, view.Y.Maximum);
+    Y1.SetRange(view.Y1.Minimum, view.Y1.Maximum);
+    return true;
+}
+
+std::optional<Chart::SelectedValues> Chart::Selection() const {
+    if (!Selected) return std::nullopt;
+    const Curve& curve = curves_[Selected->Curve];
+    return SelectedValues{curve.X[Selected->Point], curve.Y[Selected->Point]};
+}
+
 void Chart::Clear() {
     RemoveCurves();
     X = {};
@@ -45,6 +79,9 @@ void Chart::Clear() {
 void Chart::RemoveCurves() {
     // a year of overlapping days leaves a long list behind that the next layout does not need
     curves_ = {};
+    Selected.reset();
+    Rectangle.reset();
+    ZoomHistory.clear();
 }
 
 bool IsTemperatureCurve(const std::string& name) { return FindTemp(name) != std::string::npos; }

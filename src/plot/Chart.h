@@ -46,6 +46,18 @@ class ChartAxisScale {
     AxisRange range_;
 };
 
+// What all three axes show: one entry of the zoom histories.
+struct ViewRecord {
+    AxisRange X;   // serials, hours or days
+    AxisRange Y;   // left, ppm
+    AxisRange Y1;  // right, the temperature's unit
+    bool operator==(const ViewRecord&) const = default;
+};
+
+// Whether a range can be shown as it is: finite, in order, and wide enough for double precision to
+// tell its ends and the middle apart.
+bool IsShowable(const AxisRange& range);
+
 // One tick of the X axis. Positions outside the range in view are passed over, so a table serves
 // every zoom.
 struct TickLabel {
@@ -87,6 +99,47 @@ struct Curve {
     MarkerStyle Marker;
 };
 
+// A reading as a point of a curve.
+struct ChartPoint {
+    std::size_t Curve = 0;  // index among the curves
+    std::size_t Point = 0;  // index within the curve
+    bool operator==(const ChartPoint&) const = default;
+};
+
+// How the selected point is marked; the component's own codes.
+enum class CursorStyle {
+    kCross = 1,
+    kVerticalLine = 3,
+    kHorizontalLine = 4,
+    kCircle = 5,
+    kFilledBox = 8,
+    kSquare = 9,
+    kDiamond = 10,
+};
+
+// A place within the axes as fractions of their width and height, from the top left corner: it
+// means the same whatever the size of the window.
+struct ChartPlace {
+    double X = 0.5;
+    double Y = 0.5;
+};
+
+struct ChartCursor {
+    CursorStyle Style = CursorStyle::kSquare;
+    bool Shown = true;
+    // Arrow keys move the cursor; otherwise they scroll the view.
+    bool TakesArrows = true;
+    // A floating cursor stands anywhere within the axes and is bound to no reading.
+    std::optional<ChartPlace> Floating;
+};
+
+// The rectangle that the next zoom will show, while it is being drawn. Corners in any order.
+struct ZoomRectangle {
+    ChartPlace From;
+    ChartPlace To;
+    bool ByKeyboard = false;
+};
+
 // The two lines above the axes, both UTF-8.
 struct TitleBlock {
     std::string FontName = "arial";
@@ -99,6 +152,7 @@ struct TitleBlock {
 struct ChartBackground {
     std::string PictureFile;  // empty for none
     bool Stretched = true;
+    bool PictureShown = true;    // switched by hand; comes back with the next rebuild
     ColorValue Chart = kWhite;   // around the axes
     ColorValue Inside = kWhite;  // inside the axes
     ColorValue Title = kBlack;   // the title's letters
@@ -109,9 +163,10 @@ struct ChartBackground {
 class Chart {
   public:
     // Removes all curves and the title, and sets the axes back to 0..1 without titles and labels.
-    // Background and readout stay.
+    // Background, readout, cursor style and active axis stay.
     void Clear();
-    // Removes the curves alone: before the arrays that they show go away.
+    // Removes the curves alone: before the arrays that they show go away. Selection, zoom rectangle
+    // and zoom history are about the curves and go with them.
     void RemoveCurves();
     // Draws in the order of adding: later curves lie over earlier ones. Pyramids must be set, and
     // their values must not change any more.
@@ -126,6 +181,28 @@ class Chart {
     std::optional<TitleBlock> Title;
     ChartBackground Background;
     std::string Readout;  // the line about the selected point
+    ChartCursor Cursor;
+    bool LegendShown = false;
+    // The axis whose curves are selected from and that is zoomed alone.
+    ChartAxis ActiveAxis = ChartAxis::kLeft;
+    std::optional<ChartPoint> Selected;
+    std::optional<ZoomRectangle> Rectangle;
+    // The axes as the plot was last built.
+    ViewRecord Original;
+    // Views that were left by zooms since the plot was built, the latest last.
+    std::vector<ViewRecord> ZoomHistory;
+
+    ViewRecord View() const { return {X.Range(), Y.Range(), Y1.Range()}; }
+    // Sets all three axes, or none and false when one of the ranges cannot be shown. A range that
+    // is shown or was built is never refused, even an inverted one.
+    bool ShowView(const ViewRecord& view);
+    ChartAxisScale& ActiveScale() { return ActiveAxis == ChartAxis::kLeft ? Y : Y1; }
+    // Where the selected reading lies on X and on its curve's axis; nothing without a selection.
+    struct SelectedValues {
+        double X = 0;
+        double Y = 0;
+    };
+    std::optional<SelectedValues> Selection() const;
 
     // The value axis that the curve is drawn against.
     const ChartAxisScale& AxisOf(const Curve& curve) const {

@@ -88,6 +88,8 @@ void PlotBuilder::Rebuild(const PlotOptions& options) {
     chart_.Readout = texts_.Find(plot_texts::kNoPointSelected);
     extremes_ = {};
     periodStarts_.clear();
+    layout_ = options.Layout;
+    places_ = {};
 
     switch (options.Layout) {
         case GraphType::kContinuous:
@@ -105,6 +107,7 @@ void PlotBuilder::Rebuild(const PlotOptions& options) {
     }
 
     SetAxes(options);
+    chart_.Original = chart_.View();
     // a title over empty axes would promise data
     if (data_.ReadingCount > 0) SetTitles(options);
 }
@@ -129,6 +132,7 @@ void PlotBuilder::BuildContinuous(const PlotOptions& options) {
     Paint(pair.Temperature, temperatureColor_, options.MarkDataPoints);
 
     const ValueRange times = AddPair(std::move(pair));
+    places_ = ReadingPlaces(data_.Times(), chart_.Curves().front().PyramidX);
     // The search for the first and last moment starts from the bounds of the dates that can be
     // chosen. For a file that lies wholly before 2000 the axis so reaches up to 2000, as it always
     // has.
@@ -151,6 +155,7 @@ void PlotBuilder::BuildPeriods(const PeriodGrouping& grouping, const PlotOptions
         Paint(pair.Temperature, color, options.MarkDataPoints);
         AddPair(std::move(pair));
     }
+    if (data_.ReadingCount > 0) places_ = ReadingPlaces(data_.Times(), grouping);
 }
 
 PlotBuilder::CurvePair PlotBuilder::PeriodCurves(const PeriodGrouping& grouping,

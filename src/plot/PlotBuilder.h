@@ -10,6 +10,7 @@
 #include "plot/Chart.h"
 #include "plot/PeriodGrouping.h"
 #include "plot/PlotOptions.h"
+#include "plot/ReadingPlaces.h"
 
 namespace brask {
 
@@ -26,6 +27,9 @@ class PlotBuilder {
     // Costs a pass over the readings.
     void Rebuild(const PlotOptions& options);
 
+    // Of the last rebuild: its layout, and which reading each point is.
+    GraphType Layout() const { return layout_; }
+    const ReadingPlaces& Places() const { return places_; }
     // First reading of each period of the last overlapping rebuild, in order; empty for the
     // continuous layout.
     // Indexes into the data set; entry i belongs to the curves 2 i and 2 i + 1 of the chart.
@@ -73,6 +77,8 @@ class PlotBuilder {
     const UserLocale& locale_;
     const Texts& texts_;
     // Of the last rebuild, all of them.
+    GraphType layout_ = GraphType::kContinuous;
+    ReadingPlaces places_;
     Extremes extremes_;
     std::vector<std::int32_t> periodStarts_;
     ColorValue gasColor_;

@@ -2,7 +2,11 @@
 #pragma once
 
 #include "plot/Chart.h"
+#include "plot/ChartActions.h"
+#include "plot/DisplayPeriod.h"
 #include "plot/PlotBuilder.h"
+#include "plot/PlotNavigation.h"
+#include "plot/PointSelection.h"
 
 namespace brask {
 
@@ -10,6 +14,10 @@ namespace brask {
 struct Plotting {
     Chart& Plot;
     PlotBuilder& Builder;
+    ChartActions& Actions;
+    PlotNavigation& Navigation;
+    PointSelection& Selection;
+    DisplayPeriod& Period;
 };
 
 }  // namespace brask

@@ -41,7 +41,7 @@ class WindowFixture : public testing::Test {
         window_ = std::make_unique<frmBraskLite>(
             System{User, texts_, Disk, locale_, information_, clock_},
             Session{Data, loader_, Unit, LongDateOrder::kMonthDayYear, directories_, Options, log_},
-            Plotting{Plot, builder_}, Choose);
+            Plotting{Plot, builder_, Actions, Navigation, Selection, Period}, Choose);
         window_->FormLoad();
         window_->show();
         return *window_;
@@ -82,6 +82,14 @@ class WindowFixture : public testing::Test {
     DataDirectories directories_{Disk, User, texts_};
     DataFileLoader loader_{Data, User, texts_, Disk, log_};
     PlotBuilder builder_{Plot, Data, locale_, texts_};
+
+  protected:
+    ChartActions Actions{Plot, texts_};
+    PlotNavigation Navigation{{Plot, Actions, Options, User, texts_}};
+    PointSelection Selection{{Plot, builder_, Data, Unit, locale_, texts_}};
+    DisplayPeriod Period{LongDateOrder::kMonthDayYear, texts_};
+
+  private:
     std::unique_ptr<frmBraskLite> window_;
 };
 

@@ -13,17 +13,15 @@ using namespace option_texts;
 
 namespace {
 
-// The boxes are made as wide as these texts in the font in use.
-constexpr const char* kWidestDate = "30-Mmm-2000 00:00:00";
-constexpr const char* kWidestTime = "00:00 MM";
-
 QColor ToQtColor(ColorValue color) { return {color.Red(), color.Green(), color.Blue()}; }
 
 }  // namespace
 
-GraphOptionsPage::GraphOptionsPage(const Texts& texts, const UserLocale& locale, QWidget* parent)
+GraphOptionsPage::GraphOptionsPage(const Texts& texts, const UserLocale& locale,
+                                   DisplayPeriodPanel* period, QWidget* parent)
     : QScrollArea(parent),
       texts_(texts),
+      period_(period),
       frameGraphOptions(new QWidget(this)),
       controls_(texts, frameGraphOptions) {
     frameGraphOptions->setObjectName(QStringLiteral("frameGraphOptions"));
@@ -59,9 +57,9 @@ QWidget* GraphOptionsPage::BuildLayoutColumn(const UserLocale& locale) {
     for (int day = 0; day < 2; ++day) {
         const QString name = ToQt(locale.DayNames()[static_cast<std::size_t>(day)]);
         QRadioButton* const button = controls_.Option(optStartWeek, day, name);
-        button->setEnabled(false);
         week->layout()->addWidget(button);
     }
+    connect(optStartWeek, &QButtonGroup::idClicked, this, &GraphOptionsPage::StartWeekChosen);
 
     QGroupBox* const temperature = controls_.Frame(kTemperature);
     optTemperatureDisplay = controls_.Options("optTemperatureDisplay", temperature,
@@ -72,64 +70,11 @@ QWidget* GraphOptionsPage::BuildLayoutColumn(const UserLocale& locale) {
     auto* column = new QWidget(frameGraphOptions);
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
-    for (QGroupBox* frame : {type, BuildPeriodFrame(locale), week, temperature}) {
+    for (QGroupBox* frame : std::initializer_list<QGroupBox*>{type, period_, week, temperature}) {
         layout->addWidget(frame);
     }
     layout->addStretch();
     return column;
-}
-
-QGroupBox* GraphOptionsPage::BuildPeriodFrame(const UserLocale& locale) {
-    QGroupBox* const frame = controls_.Frame(kDisplayPeriod);
-    optPeriodDisplay = controls_.Options(
-        "optPeriodDisplay", frame, {kDisplayAllData, kDisplayDates, kDisplayTimes, kDisplayDays},
-        Available::kLater);
-    // a new start always shows all data; the period is not stored
-    optPeriodDisplay->button(0)->setChecked(true);
-    const auto text = [frame](const char* name, const char* widest) {
-        auto* box = new QLineEdit(frame);
-        box->setObjectName(QString::fromLatin1(name));
-        // the frame of the box takes some room beside the text
-        const int margins = 2 * box->fontMetrics().averageCharWidth();
-        box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QString::fromLatin1(widest)) +
-                             margins);
-        box->setEnabled(false);
-        return box;
-    };
-    const auto days = [frame, &locale](const char* name) {
-        auto* list = new QComboBox(frame);
-        list->setObjectName(QString::fromLatin1(name));
-        for (const std::string& day : locale.DayNames()) list->addItem(ToQt(day));
-        list->setEnabled(false);
-        return list;
-    };
-    txtStartUserDisplayPeriod = text("txtStartUserDisplayPeriod", kWidestDate);
-    txtEndUserDisplayPeriod = text("txtEndUserDisplayPeriod", kWidestDate);
-    txtStartUserDisplayTime = text("txtStartUserDisplayTime", kWidestTime);
-    txtEndUserDisplayTime = text("txtEndUserDisplayTime", kWidestTime);
-    cmbDisplayDayStart = days("cmbDisplayDayStart");
-    cmbDisplayDayEnd = days("cmbDisplayDayEnd");
-
-    // each option has its two boxes in the row below it
-    QWidget* const boxes[][2] = {{txtStartUserDisplayPeriod, txtEndUserDisplayPeriod},
-                                 {txtStartUserDisplayTime, txtEndUserDisplayTime},
-                                 {cmbDisplayDayStart, cmbDisplayDayEnd}};
-    auto* layout = static_cast<QVBoxLayout*>(frame->layout());
-    for (int option = 1; option <= 3; ++option) {
-        auto* row = new QHBoxLayout;
-        row->setContentsMargins(20, 0, 0, 0);
-        row->addWidget(boxes[option - 1][0], 1);
-        row->addWidget(new QLabel(ToQt(texts_, kTo), frame));
-        row->addWidget(boxes[option - 1][1], 1);
-        // the four buttons stand in the layout already; each row goes in behind its button and
-        // moves the others down by one
-        layout->insertLayout(2 * option, row);
-    }
-    auto* lblPeriod = new QLabel(frame);
-    lblPeriod->setObjectName(QStringLiteral("lblPeriod"));
-    layout->addWidget(lblPeriod);
-    layout->addWidget(controls_.Button("cmdSetDisplayPeriod", kSetDisplayPeriod));
-    return frame;
 }
 
 QWidget* GraphOptionsPage::BuildDrawingColumn() {
@@ -138,7 +83,8 @@ QWidget* GraphOptionsPage::BuildDrawingColumn() {
         controls_.Options("optCursorType", cursor,
                           {kCursorLines, kCursorSquare, kCursorVertical, kCursorHorizontal,
                            kCursorCircle, kCursorDiamond, kCursorBox},
-                          Available::kLater);
+                          Available::kYes);
+    connect(optCursorType, &QButtonGroup::idClicked, this, &GraphOptionsPage::CursorTypeChosen);
 
     QGroupBox* const limits = controls_.Frame(kUpperLimits);
     chkDisplayUpperLimits = controls_.CheckBox("chkDisplayUpperLimits", kDisplayUpperLimits);
@@ -154,6 +100,9 @@ QWidget* GraphOptionsPage::BuildDrawingColumn() {
     for (QCheckBox* box : {chkFlagDataPoints, chkChangeYScales, chkScaleGraph}) {
         drawing->layout()->addWidget(box);
     }
+    for (QCheckBox* box : {chkFlagDataPoints, chkChangeYScales}) box->setEnabled(true);
+    connect(chkFlagDataPoints, &QCheckBox::clicked, this, &GraphOptionsPage::DataPointsToggled);
+    connect(chkChangeYScales, &QCheckBox::clicked, this, &GraphOptionsPage::YScalingChosen);
 
     auto* column = new QWidget(frameGraphOptions);
     auto* layout = new QVBoxLayout(column);
@@ -253,14 +202,10 @@ void GraphOptionsPage::ShowClipboard(int number, ColorValue color) {
 }
 
 void GraphOptionsPage::ShowOptions(const ProgramOptions& options) {
-    txtStartUserDisplayTime->setText(ToQt(options.DisplayTimeFrom));
-    txtEndUserDisplayTime->setText(ToQt(options.DisplayTimeTo));
+    period_->ShowOptions(options);
     ChooseOption(optTemperatureDisplay, options.Fahrenheit ? 0 : 1);
     ChooseOption(optGraph, options.GraphType);
     ChooseOption(optStartWeek, options.StartWeekOn);
-    cmbDisplayDayStart->setCurrentIndex(options.StartViewDayOn);
-    // the last entry: the end day is none of the options that are read at start
-    cmbDisplayDayEnd->setCurrentIndex(6);
     chkFlagDataPoints->setChecked(options.UseDataMarkers);
     chkChangeYScales->setChecked(options.ScaleYAxisOnZoom);
     chkXYLabelColors->setChecked(options.UseLblColors);
@@ -282,11 +227,6 @@ void GraphOptionsPage::ShowColors(const PlotColors& colors) {
         MSFlexGridColors->setItem(row, 2, sample);
     }
     ShowClipboard(1, colors.CurveColor(1));
-}
-
-void GraphOptionsPage::ShowPeriod(const QString& start, const QString& end) {
-    txtStartUserDisplayPeriod->setText(start);
-    txtEndUserDisplayPeriod->setText(end);
 }
 
 }  // namespace brask

@@ -1,14 +1,13 @@
-// The third tab: everything about the plot. Here the layout and the temperature unit can be
-// chosen; the other options show what is stored.
+// The third tab: everything about the plot. What concerns limits, colours and printing only shows
+// what is stored yet.
 #pragma once
 
 #include <QButtonGroup>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <QTableWidget>
 
+#include "app/ui/DisplayPeriodPanel.h"
 #include "app/ui/OptionControls.h"
 #include "data/PlotColors.h"
 #include "data/ProgramOptions.h"
@@ -23,8 +22,9 @@ class GraphOptionsPage final : public QScrollArea {
     Q_OBJECT
 
   public:
-    // The locale is only read while the page is made.
-    GraphOptionsPage(const Texts& texts, const UserLocale& locale, QWidget* parent);
+    // The locale is only read while the page is made. Takes the panel in as one of its frames.
+    GraphOptionsPage(const Texts& texts, const UserLocale& locale, DisplayPeriodPanel* period,
+                     QWidget* parent);
 
     // Sets every control from the stored options; sends no signal.
     void ShowOptions(const ProgramOptions& options);
@@ -34,9 +34,8 @@ class GraphOptionsPage final : public QScrollArea {
     // Marks a layout that was chosen elsewhere.
     // An index without a button leaves none marked.
     void ShowGraphType(int index) { ChooseOption(optGraph, index); }
-    // The period boxes follow a continuous rebuild: the X range in date form.
-    // Both in the form that the boxes will be read in, "dd-mmm-yyyy hh:mm:ss".
-    void ShowPeriod(const QString& start, const QString& end);
+    // Sets the box for marking the single readings, which a menu item can switch too.
+    void ShowDataPoints(bool marked) { chkFlagDataPoints->setChecked(marked); }
 
   signals:
     // By the user's click.
@@ -44,12 +43,14 @@ class GraphOptionsPage final : public QScrollArea {
     // too; whoever listens must bear that. The index is that of GraphType.
     void GraphTypeChosen(int index);
     void TemperatureUnitChosen(bool fahrenheit);
+    void StartWeekChosen(int day);
+    void CursorTypeChosen(int index);
+    void DataPointsToggled();
+    void YScalingChosen(bool scales);
 
   private:
     // The three columns, left to right, and their larger frames.
     QWidget* BuildLayoutColumn(const UserLocale& locale);
-    // Four options, three of them with a pair of boxes.
-    QGroupBox* BuildPeriodFrame(const UserLocale& locale);
     QWidget* BuildDrawingColumn();
     QGroupBox* BuildGraphColors();
     QGroupBox* BuildLineColors();
@@ -58,6 +59,7 @@ class GraphOptionsPage final : public QScrollArea {
     void ShowClipboard(int number, ColorValue color);
 
     const Texts& texts_;
+    DisplayPeriodPanel* period_;
     // Everything stands on this widget, which the scroll area moves.
     QWidget* frameGraphOptions;
     // Must follow the widget that it fills.
@@ -65,13 +67,6 @@ class GraphOptionsPage final : public QScrollArea {
     // The controls, under the names that users' help and tests know. All belong to the page. Left
     // column:
     QButtonGroup* optGraph = nullptr;
-    QButtonGroup* optPeriodDisplay = nullptr;
-    QLineEdit* txtStartUserDisplayPeriod = nullptr;
-    QLineEdit* txtEndUserDisplayPeriod = nullptr;
-    QLineEdit* txtStartUserDisplayTime = nullptr;
-    QLineEdit* txtEndUserDisplayTime = nullptr;
-    QComboBox* cmbDisplayDayStart = nullptr;
-    QComboBox* cmbDisplayDayEnd = nullptr;
     // Button 0 is Sunday, 1 Monday.
     QButtonGroup* optStartWeek = nullptr;
     // Button 0 is °F, 1 is °C: the other way round than stored.

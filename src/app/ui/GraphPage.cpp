@@ -17,11 +17,9 @@ constexpr const char* kKeyProperty = "toolbarKey";
 
 }  // namespace
 
-GraphPage::GraphPage(const Chart& chart, const UserLocale& locale, const Texts& texts,
-                     Commands& commands, QWidget* parent)
-    : QStackedWidget(parent), texts_(texts), commands_(commands) {
+GraphPage::GraphPage(const Parts& parts, QWidget* parent) : QStackedWidget(parent), parts_(parts) {
     frameCommandEnabled = BuildAdvice();
-    frameGraph = BuildPlot(chart, locale);
+    frameGraph = BuildPlot();
     addWidget(frameCommandEnabled);
     addWidget(frameGraph);
     // only now, since both go through the buttons that were made above
@@ -32,12 +30,12 @@ GraphPage::GraphPage(const Chart& chart, const UserLocale& locale, const Texts& 
 QWidget* GraphPage::BuildAdvice() {
     auto* frame = new QWidget(this);
     frame->setObjectName(QStringLiteral("frameCommandEnabled"));
-    auto* title = new QLabel(ToQt(texts_, app_texts::kAdviceTitle), frame);
+    auto* title = new QLabel(ToQt(parts_.Words, app_texts::kAdviceTitle), frame);
     // relative to the font in use: users who need large letters have set them
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.5);
     title->setFont(large);
-    auto* advice = new QLabel(ToQt(texts_, app_texts::kAdvice), frame);
+    auto* advice = new QLabel(ToQt(parts_.Words, app_texts::kAdvice), frame);
     advice->setWordWrap(true);
 
     auto* buttons = new QHBoxLayout;
@@ -47,7 +45,7 @@ QWidget* GraphPage::BuildAdvice() {
     buttons->addWidget(LargeButton("cmdAdvicePocketPC", "PocketPC"));
     buttons->addStretch();
 
-    lblRecent = new QLabel(ToQt(texts_, app_texts::kRecentHeading), frame);
+    lblRecent = new QLabel(ToQt(parts_.Words, app_texts::kRecentHeading), frame);
     recentList_ = new QVBoxLayout;
     recentList_->setSpacing(2);
 
@@ -70,52 +68,79 @@ QWidget* GraphPage::BuildAdvice() {
 }
 
 QPushButton* GraphPage::LargeButton(const char* name, const char* key) {
-    auto* button = new QPushButton(ToQt(texts_, FindToolbarRow(key)->ToolTip), this);
+    auto* button = new QPushButton(ToQt(parts_.Words, FindToolbarRow(key)->ToolTip), this);
     button->setObjectName(QString::fromLatin1(name));
     button->setProperty(kKeyProperty, QString::fromLatin1(key));
     button->setIconSize({32, 32});
     button->setMinimumHeight(56);
     connect(button, &QPushButton::clicked, this,
             // keys are literals and outlive the button
-            [this, key] { commands_.ToolbarButtonClick(key); });
+            [this, key] { parts_.Registry.ToolbarButtonClick(key); });
     largeButtons_.append(button);
     return button;
 }
 
-QWidget* GraphPage::BuildPlot(const Chart& chart, const UserLocale& locale) {
+QWidget* GraphPage::BuildPlot() {
     auto* frame = new QWidget(this);
     frame->setObjectName(QStringLiteral("frameGraph"));
-    DynaPlot1 = new DynaPlot(chart, locale, frame);
+    DynaPlot1 = new DynaPlot(parts_.Plot, parts_.Locale, frame);
     DynaPlot1->setObjectName(QStringLiteral("DynaPlot1"));
-    Scroll1 = new QScrollBar(Qt::Horizontal, frame);
-    Scroll1->setObjectName(QStringLiteral("Scroll1"));
-    // present and disabled, as everything whose work is yet to come
-    Scroll1->setEnabled(false);
-
-    auto* lblFindPoint = new QLabel(ToQt(texts_, app_texts::kFindLabel), frame);
-    lblFindPoint->setObjectName(QStringLiteral("lblFindPoint"));
-    txtFindPoint = new QLineEdit(frame);
-    txtFindPoint->setObjectName(QStringLiteral("txtFindPoint"));
-    txtFindPoint->setMaximumWidth(220);
-    txtFindPoint->setEnabled(false);
-    // the label's letter leads into the box
-    lblFindPoint->setBuddy(txtFindPoint);
-    cmdFindPoint = new QPushButton(ToQt(texts_, app_texts::kFindPoint), frame);
-    cmdFindPoint->setObjectName(QStringLiteral("cmdFindPoint"));
-    cmdFindPoint->setEnabled(false);
-
-    auto* row = new QHBoxLayout;
-    row->addWidget(lblFindPoint);
-    row->addWidget(txtFindPoint);
-    row->addWidget(cmdFindPoint);
-    row->addStretch();
+    DynaPlot1->setAccessibleName(ToQt(parts_.Words, app_texts::kPlotName));
+    Scroll1 = new PlotScrollBar(frame);
+    Scroll1->setAccessibleName(ToQt(parts_.Words, app_texts::kScrollName));
+    connect(Scroll1, &PlotScrollBar::Scrolled, this,
+            [this](double minimum) { parts_.Navigation.ScrollTo(minimum); });
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(6, 6, 6, 6);
     // the plot alone grows with the window
     layout->addWidget(DynaPlot1, 1);
     layout->addWidget(Scroll1);
-    layout->addLayout(row);
+    layout->addLayout(BuildFindRow(frame));
     return frame;
+}
+
+QLayout* GraphPage::BuildFindRow(QWidget* frame) {
+    auto* lblFindPoint = new QLabel(ToQt(parts_.Words, app_texts::kFindLabel), frame);
+    lblFindPoint->setObjectName(QStringLiteral("lblFindPoint"));
+    txtFindPoint = new QLineEdit(frame);
+    txtFindPoint->setObjectName(QStringLiteral("txtFindPoint"));
+    txtFindPoint->setFixedWidth(
+        txtFindPoint->fontMetrics().horizontalAdvance(QStringLiteral("30-Mmm-2000 00:00:00  ")));
+    // the label's letter leads into the box
+    lblFindPoint->setBuddy(txtFindPoint);
+    cmdFindPoint = new QPushButton(ToQt(parts_.Words, app_texts::kFindPoint), frame);
+    cmdFindPoint->setObjectName(QStringLiteral("cmdFindPoint"));
+    lblFindPointErr = new QLabel(frame);
+    lblFindPointErr->setObjectName(QStringLiteral("lblFindPointErr"));
+    // it repeats what was typed
+    lblFindPointErr->setTextFormat(Qt::PlainText);
+    connect(txtFindPoint, &QLineEdit::textChanged, this, [this] { CheckFindPoint(); });
+    connect(txtFindPoint, &QLineEdit::returnPressed, cmdFindPoint, &QPushButton::click);
+    connect(cmdFindPoint, &QPushButton::clicked, this, [this] { cmdFindPoint_Click(); });
+    CheckFindPoint();
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblFindPoint);
+    row->addWidget(txtFindPoint);
+    row->addWidget(cmdFindPoint);
+    row->addWidget(lblFindPointErr, 1);
+    return row;
+}
+
+void GraphPage::CheckFindPoint() {
+    const std::string text = FromQt(txtFindPoint->text());
+    const std::string message = text.empty() ? std::string() : parts_.Finder.Check(text);
+    cmdFindPoint->setEnabled(!text.empty() && message.empty());
+    lblFindPointErr->setText(ToQt(message));
+}
+
+void GraphPage::cmdFindPoint_Click() {
+    lblFindPointErr->setText(ToQt(parts_.Finder.Find(FromQt(txtFindPoint->text()))));
+}
+
+void GraphPage::FocusFindPoint() {
+    txtFindPoint->setFocus(Qt::ShortcutFocusReason);
+    txtFindPoint->selectAll();
 }
 
 void GraphPage::ShowPlotFrame(bool hasReadings) {
@@ -124,10 +149,10 @@ void GraphPage::ShowPlotFrame(bool hasReadings) {
 
 void GraphPage::SyncEnabled() {
     // the recent files too: a second load must not start
-    frameCommandEnabled->setEnabled(!commands_.Busy());
+    frameCommandEnabled->setEnabled(!parts_.Registry.Busy());
     for (QPushButton* button : std::as_const(largeButtons_)) {
         const auto* row = FindToolbarRow(FromQt(button->property(kKeyProperty).toString()));
-        button->setEnabled(commands_.Enabled(row->Command));
+        button->setEnabled(parts_.Registry.Enabled(row->Command));
     }
 }
 

@@ -24,7 +24,7 @@ class OptionControls {
 
     // A titled frame with a column of rows.
     QGroupBox* Frame(const TextRow& title, const char* name = "") const;
-    // Disabled, as all single boxes and buttons are for now.
+    // Disabled, as all single boxes and buttons are until somebody listens to them.
     QCheckBox* CheckBox(const char* name, const TextRow& caption) const;
     // The caption without its mnemonic is what screen readers say; set another where it is empty.
     QPushButton* Button(const char* name, const QString& caption) const;

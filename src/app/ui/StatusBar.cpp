@@ -1,6 +1,7 @@
 #include "app/ui/StatusBar.h"
 
 #include "app/AppTexts.h"
+#include "app/ui/ElidedLabel.h"
 #include "data/DateTime.h"
 #include "platform/qt/QtText.h"
 
@@ -8,11 +9,8 @@ namespace brask {
 namespace {
 
 QLabel* NamedLabel(const char* name, QWidget* parent) {
-    auto* label = new QLabel(parent);
+    auto* label = new ElidedLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
-    // a file may be called like a tag
-    label->setTextFormat(Qt::PlainText);
-    label->setContentsMargins(6, 0, 6, 0);
     return label;
 }
 
@@ -22,12 +20,16 @@ StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
     : QStatusBar(parent),
       texts_(texts),
       clock_(clock),
+      lblStatusSelected(NamedLabel("lblStatusSelected", this)),
+      lblStatusRange(NamedLabel("lblStatusRange", this)),
       lblStatusFile(NamedLabel("lblStatusFile", this)),
       lblStatusCounts(NamedLabel("lblStatusCounts", this)),
       lblStatusTime(NamedLabel("lblStatusTime", this)),
       TimerOneSecond(new QTimer(this)) {
     setObjectName(QStringLiteral("StatusBar1"));
     // permanent ones stay in sight while a notice is shown
+    addPermanentWidget(lblStatusSelected);
+    addPermanentWidget(lblStatusRange);
     addPermanentWidget(lblStatusFile);
     addPermanentWidget(lblStatusCounts);
     addPermanentWidget(lblStatusTime);
@@ -49,6 +51,11 @@ void StatusBar::ShowData(const DataSet& readings, const QString& fileName,
             : texts_.Fill(app_texts::kStatusRejected, {count, std::to_string(rejectedLines)});
     // a file of bad lines alone has something to tell as well
     lblStatusCounts->setText(any || rejectedLines > 0 ? ToQt(text) : QString());
+}
+
+void StatusBar::ShowView(const QString& selected, const QString& range) {
+    lblStatusSelected->setText(selected);
+    lblStatusRange->setText(range);
 }
 
 // No time limit: a notice may come while nobody looks.

@@ -34,7 +34,9 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session, const P
       plotting_(plotting),
       commands_(system.User, system.Words),
       document_(system, session, plotting, commands_),
-      recent_(session.Options) {
+      recent_(session.Options),
+      finder_(
+          {plotting.Plot, plotting.Builder, plotting.Actions, session.DateOrder, system.Words}) {
     setObjectName(QStringLiteral("frmBraskLite"));
     setWindowIcon(ProgramIcon());
     // on the window itself, so that a file may be dropped anywhere on it
@@ -46,6 +48,10 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session, const P
         *this);
     handheld_ = std::make_unique<HandheldCommand>(
         system_, session_, HandheldCommandParts{document_, commands_, choosers}, *this);
+    plotCommands_ = std::make_unique<PlotCommands>(
+        PlotCommands::Parts{plotting_, session_, document_, commands_, system_.User, system_.Locale,
+                            system_.Words},
+        *this);
     // before the menus: an item whose command is unknown starts disabled
     RegisterCommands();
     menus_ = std::make_unique<MenuBar>(*menuBar(), system_.Words, commands_);
@@ -57,9 +63,13 @@ void frmBraskLite::BuildPages() {
     Toolbar1 = new Toolbar(texts, commands_, *menus_, this);
     addToolBar(Toolbar1);
     SSTab1 = new TabControl(this);
-    graphPage_ = new GraphPage(plotting_.Plot, system_.Locale, texts, commands_, SSTab1);
+    graphPage_ = new GraphPage(
+        {plotting_.Plot, plotting_.Navigation, finder_, system_.Locale, texts, commands_}, SSTab1);
     dataPage_ = new DataPage(session_.Data, session_.Unit, texts, SSTab1);
-    graphOptions_ = new GraphOptionsPage(texts, system_.Locale, SSTab1);
+    period_ = new DisplayPeriodPanel({plotting_.Period, plotting_.Navigation, plotting_.Plot,
+                                      session_.Options, system_.Locale, texts},
+                                     SSTab1);
+    graphOptions_ = new GraphOptionsPage(texts, system_.Locale, period_, SSTab1);
     programOptions_ = new ProgramOptionsPage(texts, SSTab1);
     SSTab1->addTab(graphPage_, ToQt(texts, kTabGraph));
     SSTab1->addTab(dataPage_, ToQt(texts, kTabData));
@@ -78,10 +88,12 @@ void frmBraskLite::BuildPages() {
             [this](int index) { optGraph_Click(index); });
     connect(graphOptions_, &GraphOptionsPage::TemperatureUnitChosen, this,
             [this](bool fahrenheit) { optTemperatureDisplay_Click(fahrenheit); });
+    plotCommands_->Attach({*menus_, *Toolbar1, *graphPage_, *graphOptions_, *period_, *statusBar_});
 }
 
 void frmBraskLite::RegisterCommands() {
     commands_.Register("mnuFileViewData", [this] { SSTab1->setCurrentIndex(kDataTab); });
+    commands_.Register("ShowGraphTab", [this] { SSTab1->setCurrentIndex(kGraphTab); });
     commands_.Register("mnuGraphOptions", [this] { SSTab1->setCurrentIndex(kGraphOptionsTab); });
     commands_.Register("mnuProgramOptions",
                        [this] { SSTab1->setCurrentIndex(kProgramOptionsTab); });
@@ -131,7 +143,7 @@ void frmBraskLite::LoadOptions() {
     programOptions_->ShowAddresses(ToQt(session_.Options.Get("InstrumentAddress")),
                                    ToQt(session_.Options.Get("HandheldAddress")));
     menus_->SetChecked("mnuGraphType_" + QString::number(options.GraphType), true);
-    menus_->SetChecked(QStringLiteral("mnuMarkDataPoints"), options.UseDataMarkers);
+    plotCommands_->ShowOptions(options);
     menus_->SetChecked(QStringLiteral("mnuUseToleranceCurves"), options.UseToleranceCurve);
     menus_->SetChecked(QStringLiteral("mnuMarkOutOfToleranceInRed"),
                        options.MarkOutOfToleranceInRed);
@@ -154,11 +166,7 @@ void frmBraskLite::ShowChart() {
     // a load begins, or has ended without readings
     if (plotting_.Plot.Curves().empty()) dataPage_->LetGo();
     graphPage_->ShowChart();
-    if (session_.Data.ReadingCount == 0 || document_.Layout() != GraphType::kContinuous) return;
-    // only the continuous layout has dates on its axis to be shown in the boxes
-    const AxisRange& range = plotting_.Plot.X.Range();
-    graphOptions_->ShowPeriod(ToQt(FormatReadingTime(range.Minimum)),
-                              ToQt(FormatReadingTime(range.Maximum)));
+    plotCommands_->ShowPlot();
 }
 
 void frmBraskLite::ShowReadings() {

@@ -12,6 +12,7 @@
 #include "app/ui/GraphPage.h"
 #include "app/ui/HandheldCommand.h"
 #include "app/ui/MenuBar.h"
+#include "app/ui/PlotCommands.h"
 #include "app/ui/ProgramOptionsPage.h"
 #include "app/ui/StatusBar.h"
 #include "app/ui/TabControl.h"
@@ -105,6 +106,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     Commands commands_;
     Document document_;
     RecentFiles recent_;
+    PointFinder finder_;
     // Found at start-up; decides where data lies.
     WindowsKind windowsKind_ = WindowsKind::kNotClassified;
     // Composed at start-up; commands that come later read them.
@@ -116,12 +118,14 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     std::unique_ptr<MenuBar> menus_;
     std::unique_ptr<FileCommands> files_;
     std::unique_ptr<HandheldCommand> handheld_;
+    std::unique_ptr<PlotCommands> plotCommands_;
     // Children of the window, which deletes them.
     Toolbar* Toolbar1 = nullptr;
     TabControl* SSTab1 = nullptr;
     GraphPage* graphPage_ = nullptr;
     DataPage* dataPage_ = nullptr;
     GraphOptionsPage* graphOptions_ = nullptr;
+    DisplayPeriodPanel* period_ = nullptr;
     ProgramOptionsPage* programOptions_ = nullptr;
     StatusBar* statusBar_ = nullptr;
     frmBuildingGraph* frmBuildingGraph_ = nullptr;

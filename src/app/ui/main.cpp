@@ -116,7 +116,13 @@ int RunWindow(int argc, char** argv) {
     Chart chart;
     PlotBuilder builder(chart, data, native.Locale(), texts);
 
-    frmBraskLite window(system, session, {chart, builder}, choosers);
+    ChartActions actions(chart, texts);
+    PlotNavigation navigation({chart, actions, stored.Options(), user, texts});
+    PointSelection selection({chart, builder, data, unit, native.Locale(), texts});
+    DisplayPeriod period(session.DateOrder, texts);
+
+    frmBraskLite window(system, session, {chart, builder, actions, navigation, selection, period},
+                        choosers);
     // before FormLoad, whose messages belong to the window
     user.SetViews(&window, &window.Progress(), &window.Notices());
     if (line.Handheld) window.OverrideHandheld(*line.Handheld);

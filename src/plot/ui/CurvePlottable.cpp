@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plot/ui/AxesView.h"
 #include "plot/ui/ChartColors.h"
 
 namespace brask {
 namespace {
-
-AxisRange RangeOf(const QCPAxis& axis) { return {axis.range().lower, axis.range().upper}; }
 
 void PaintLines(QCPPainter& painter, const PixelPolylines& lines) {
     QVector<QPointF> points;
@@ -76,14 +75,7 @@ void CurvePlottable::drawLegendIcon(QCPPainter* /*painter*/, const QRectF& /*rec
 PixelView CurvePlottable::ViewOf(const Curve& curve) const {
     // one plottable serves both value axes; the library itself knows only the left one
     const QCPAxis& valueAxis = curve.Axis == ChartAxis::kLeft ? *leftAxis_ : *rightAxis_;
-    // may be empty or worse when the window is very small: a view is at least one pixel
-    const QRect rect = mKeyAxis->axisRect()->rect();
-    PixelView view({1.0 * rect.left(), 1.0 * rect.top(), std::max(1.0, 1.0 * rect.width()),
-                    std::max(1.0, 1.0 * rect.height())},
-                   RangeOf(*mKeyAxis), RangeOf(valueAxis));
-    if (mKeyAxis->rangeReversed()) view.ReverseX();
-    if (valueAxis.rangeReversed()) view.ReverseY();
-    return view;
+    return ViewOfAxes(*mKeyAxis, valueAxis);
 }
 
 void CurvePlottable::draw(QCPPainter* painter) {

@@ -4,10 +4,11 @@
 #include <algorithm>
 
 #include "plot/AxisTicks.h"
-#include "plot/PixelView.h"
+#include "plot/ui/AxesView.h"
 #include "plot/ui/ChartColors.h"
 #include "plot/ui/ChartTicker.h"
 #include "plot/ui/CurvePlottable.h"
+#include "plot/ui/PlotOverlay.h"
 
 namespace brask {
 namespace {
@@ -79,9 +80,14 @@ DynaPlot::DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent
         axis->setLabelFont(PlotFont(kAxisTitlePoints));
         axis->setLabelPadding(6);
     }
+    addLayer(QStringLiteral("over"));
+    overlay_ = layer(QStringLiteral("over"));
+    // with a picture of its own: it changes with every step of the cursor, the curves do not
+    overlay_->setMode(QCPLayer::lmBuffered);
     AddTexts();
-    // the plot owns it from here on
+    // the plot owns both from here on
     new CurvePlottable(chart, xAxis, yAxis, yAxis2);
+    new PlotOverlay(chart, *this, overlay_->name());
 }
 
 void DynaPlot::AddTexts() {
@@ -96,17 +102,52 @@ void DynaPlot::AddTexts() {
     rows.addElement(0, 0, title_);
     rows.addElement(1, 0, caption_);
     rows.addElement(3, 0, readout_);
+    readout_->setLayer(overlay_);
 }
 
 void DynaPlot::ShowChart() {
     ShowBackground();
     ShowTitle();
     ShowAxes();
-    SetText(*readout_, chart_.Readout, PlotFont(kCaptionPoints), ToColor(chart_.X.Color));
+    ShowReadout();
     // Drawn before this returns when it can be seen: the readings may go away right after, and the
     // old curves with them. A hidden plot only takes note, so that several changes cost one
     // drawing.
     replot(isVisible() ? rpRefreshHint : rpQueuedReplot);
+}
+
+void DynaPlot::ShowView() {
+    ShowReadout();
+    if (chart_.View() == shownView_ && chart_.Background.PictureShown == shownPicture_) {
+        overlay_->replot();
+        return;
+    }
+    if (chart_.Background.PictureShown != shownPicture_) ShowBackground();
+    ShowRanges();
+    replot(rpQueuedReplot);
+}
+
+void DynaPlot::ShowReadout() {
+    SetText(*readout_, chart_.Readout, PlotFont(kCaptionPoints), ToColor(chart_.X.Color));
+}
+
+PixelView DynaPlot::ViewOf(ChartAxis axis) const {
+    return ViewOfAxes(*xAxis, axis == ChartAxis::kLeft ? *yAxis : *yAxis2);
+}
+
+ChartPlace DynaPlot::PlaceAt(const QPointF& pixels) const {
+    const PixelRect rect = ViewOf(ChartAxis::kLeft).Rect();
+    return {(pixels.x() - rect.Left) / rect.Width, (pixels.y() - rect.Top) / rect.Height};
+}
+
+void DynaPlot::focusInEvent(QFocusEvent* event) {
+    QCustomPlot::focusInEvent(event);
+    overlay_->replot();
+}
+
+void DynaPlot::focusOutEvent(QFocusEvent* event) {
+    QCustomPlot::focusOutEvent(event);
+    overlay_->replot();
 }
 
 QImage DynaPlot::Picture(QSize size) {
@@ -139,21 +180,27 @@ void DynaPlot::ShowAxes() {
         axis->grid()->setPen(QPen(grid, 1, Qt::DotLine));
         axis->grid()->setZeroLinePen(Qt::NoPen);
     }
+    ShowRanges();
     ShowXAxis();
     ShowValueAxis(*yAxis, chart_.Y);
     ShowValueAxis(*yAxis2, chart_.Y1);
 }
 
-void DynaPlot::ShowXAxis() {
+void DynaPlot::ShowRanges() {
     SetRange(*xAxis, chart_.X.Range(),
              chart_.Labels.DateFormat.empty() ? kNumberHalfWidth : kDateHalfWidth);
+    SetRange(*yAxis, chart_.Y.Range(), kNumberHalfWidth);
+    SetRange(*yAxis2, chart_.Y1.Range(), kNumberHalfWidth);
+    shownView_ = chart_.View();
+}
+
+void DynaPlot::ShowXAxis() {
     xAxis->setLabel(Shown(chart_.X.Title));
     xAxis->setLabelColor(ToColor(chart_.X.Color));
     xAxis->setTickLabelColor(ToColor(chart_.X.Color));
 }
 
 void DynaPlot::ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale) {
-    SetRange(axis, scale.Range(), kNumberHalfWidth);
     axis.setLabel(Shown(scale.Title));
     axis.setLabelColor(ToColor(scale.Color));
     axis.setTickLabelColor(ToColor(scale.Color));
@@ -164,7 +211,8 @@ void DynaPlot::ShowBackground() {
     // both are set: the colour shows around a picture that is not stretched, and instead of a
     // missing one
     setBackground(QBrush(ToColor(background.Chart)));
-    const QPixmap picture = BackgroundPicture();
+    const QPixmap picture = background.PictureShown ? BackgroundPicture() : QPixmap();
+    shownPicture_ = background.PictureShown;
     setBackground(picture, background.Stretched, Qt::IgnoreAspectRatio);
     // the picture shows inside the axes too
     axisRect()->setBackground(picture.isNull() ? QBrush(ToColor(background.Inside))

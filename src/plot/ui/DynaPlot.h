@@ -9,6 +9,7 @@
 
 #include "platform/UserLocale.h"
 #include "plot/Chart.h"
+#include "plot/PixelView.h"
 
 namespace brask {
 
@@ -24,9 +25,23 @@ class DynaPlot : public QCustomPlot {
     // Takes over the chart's whole state and draws it; a hidden widget draws once it is shown.
     void ShowChart();
 
+    // Takes over where the axes stand, the cursor and the readout. Draws no curve again when the
+    // axes have not moved; several moves before the next frame cost one drawing.
+    void ShowView();
+
+    // Where the readings of an axis are drawn, in the widget's pixels.
+    PixelView ViewOf(ChartAxis axis) const;
+    // A place in pixels as a part of the inside of the axes; outside of it below 0 or above 1.
+    ChartPlace PlaceAt(const QPointF& pixels) const;
+
     // The chart as ShowChart() last took it over, drawn at this size in pixels, whatever the
     // widget's own size and the screen's pixel ratio. A side of less than one pixel counts as one.
     QImage Picture(QSize size);
+
+  protected:
+    // The frame that shows the focus comes and goes.
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     // Rows above and below the axes: title and caption on top, the readout at the bottom.
@@ -35,6 +50,8 @@ class DynaPlot : public QCustomPlot {
     // once by the constructor.
     void ShowTitle();
     void ShowAxes();
+    void ShowRanges();
+    void ShowReadout();
     void ShowXAxis();
     void ShowValueAxis(QCPAxis& axis, const ChartAxisScale& scale);
     void ShowBackground();
@@ -49,6 +66,9 @@ class DynaPlot : public QCustomPlot {
     QCPTextElement* title_ = nullptr;  // these three belong to the plot's layout
     QCPTextElement* caption_ = nullptr;
     QCPTextElement* readout_ = nullptr;
+    QCPLayer* overlay_ = nullptr;  // with the readout and what lies over the curves
+    ViewRecord shownView_;
+    bool shownPicture_ = true;
     QPixmap picture_;  // the background, as read from pictureFile_
     std::string pictureFile_;
     QDateTime pictureChanged_;
