@@ -18,20 +18,21 @@ struct HandheldCommand::Running {
     frmAccessPDA Window;
     CollectionRetrieval Retrieval;
 
-    Running(const System& system, const Session& session, HandheldAddress address,
-            CollectSession& collected, QWidget& parent)
+    Running(HandheldCommand& command, HandheldAddress address)
         : Address(std::move(address)),
-          Handheld(MakeHandheldAccess(Address, system.Disk)),
-          Recovery(system.Disk, system.Time, session.Directories),
-          Window(system.Words, &parent),
-          Retrieval({*Handheld, system.Disk, system.User, system.Words, system.Information,
-                     session.Directories, Recovery, session.Log},
-                    Address, session.Options, collected, Window) {}
+          Handheld(command.make_(Address)),
+          Recovery(command.system_.Disk, command.system_.Time, command.session_.Directories),
+          Window(command.system_.Words, &command.window_),
+          Retrieval(command.PartsOf(*this), Address, command.session_.Options, command.collected_,
+                    Window) {}
 };
 
 HandheldCommand::HandheldCommand(const System& system, const Session& session,
                                  const HandheldCommandParts& parts, QWidget& window)
     : system_(system), session_(session), parts_(parts), window_(window) {
+    make_ = [this](const HandheldAddress& address) {
+        return MakeHandheldAccess(address, system_.Disk);
+    };
     parts_.Registry.Register("mnuReadPDAFile", [this] { mnuReadPDAFile_Click(); });
 }
 
@@ -43,6 +44,11 @@ HandheldAddress HandheldCommand::Address() const {
         .value_or(HandheldAddress());
 }
 
+RetrievalParts HandheldCommand::PartsOf(Running& run) const {
+    return {*run.Handheld,       system_.Disk,         system_.User, system_.Words,
+            system_.Information, session_.Directories, run.Recovery, session_.Log};
+}
+
 void HandheldCommand::mnuReadPDAFile_Click() {
     const HandheldAddress address = Address();
     if (address.Remote &&
@@ -52,7 +58,7 @@ void HandheldCommand::mnuReadPDAFile_Click() {
     parts_.Registry.SetBusy(true);
     collected_ = {};
     collected_.State = CollectState::kRunning;
-    running_ = std::make_unique<Running>(system_, session_, address, collected_, window_);
+    running_ = std::make_unique<Running>(*this, address);
     frmAccessPDA& shown = running_->Window;
     QObject::connect(&shown, &frmAccessPDA::ReadyToRun, &window_, [this] { Run(); });
     QObject::connect(&shown, &frmAccessPDA::CancelWanted, &window_,

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -11,6 +12,7 @@
 #include "app/ui/ProgramOptionsPage.h"
 #include "data/CollectSession.h"
 #include "data/Session.h"
+#include "handheld/RetrievalParts.h"
 #include "platform/HandheldAddress.h"
 #include "platform/System.h"
 #include "platform/qt/Choosers.h"
@@ -35,6 +37,9 @@ class HandheldCommand {
 
     // Takes this handheld instead of the stored one, until the program ends.
     void Override(HandheldAddress address) { overridden_ = std::move(address); }
+    // Makes the link to an address in another way than by MakeHandheldAccess.
+    using Maker = std::function<std::unique_ptr<HandheldAccess>(const HandheldAddress&)>;
+    void ReachWith(Maker make) { make_ = std::move(make); }
     // Lets the page choose the handheld. A choice is stored at once.
     void Serve(ProgramOptionsPage& page);
     // At start-up: the notice about the missing software, unless it is not wanted.
@@ -45,6 +50,7 @@ class HandheldCommand {
 
     // A stored text that is no address counts as no handheld.
     HandheldAddress Address() const;
+    RetrievalParts PartsOf(Running& run) const;
     void mnuReadPDAFile_Click();
     void Run();
     void Ended();
@@ -57,6 +63,7 @@ class HandheldCommand {
     QWidget& window_;
     CollectSession collected_;
     std::optional<HandheldAddress> overridden_;
+    Maker make_;
     std::unique_ptr<Running> running_;
 };
 

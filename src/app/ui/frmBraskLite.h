@@ -49,9 +49,8 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     // Opens a data file from disk.
     // Returns when the load has ended; ignored while another one runs.
     void OpenFile(const QString& path) { files_->OpenFile(path); }
-    // Takes this handheld instead of the stored one. For the command line.
-    // Before FormLoad, whose notice depends on it.
-    void OverrideHandheld(const HandheldAddress& address) { handheld_->Override(address); }
+    // For the command line, before FormLoad, whose notice depends on the handheld; and for tests.
+    HandheldCommand& Handheld() { return *handheld_; }
     // Whether the stored options ask for a maximized window.
     // Known after FormLoad.
     bool OpensMaximized() const { return opensMaximized_; }

@@ -125,7 +125,7 @@ int RunWindow(int argc, char** argv) {
                         choosers);
     // before FormLoad, whose messages belong to the window
     user.SetViews(&window, &window.Progress(), &window.Notices());
-    if (line.Handheld) window.OverrideHandheld(*line.Handheld);
+    if (line.Handheld) window.Handheld().Override(*line.Handheld);
     window.FormLoad();
     // a start-up message was answered with leaving; without an event loop yet, quitting has no
     // effect of its own
