@@ -103,6 +103,10 @@ inline constexpr auto kAllUsers = TextRow("options", "All Users (%1)");
 inline constexpr auto kOneUser = TextRow("options", "User %1 (%2)");
 // The first is the title of the frame and the label of its first box.
 inline constexpr auto kInstrumentLink = TextRow("options", "Instrument Link");
+inline constexpr auto kInstrumentHint = TextRow("options", "irda, or tcp:HOST:PORT");
 inline constexpr auto kHandheld = TextRow("options", "Handheld");
+// Stands in the box while it is empty.
+inline constexpr auto kHandheldHint =
+    TextRow("options", "dir: and the folder that the handheld or its card appears in");
 
 }  // namespace brask::option_texts

@@ -3,30 +3,49 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <utility>
 
 namespace brask {
 namespace {
 
 constexpr std::size_t kBlockSize = std::size_t{64} * 1024;
+constexpr std::size_t kFirstBuffer = std::size_t{256} * 1024;
 constexpr unsigned char kFirstRepeat = 128;
 // Repeats are copied in pieces of a fixed size, which the compiler turns into a few moves; what is
 // copied too much is overwritten by what comes next.
 constexpr std::size_t kPiece = 32;
-// room behind a line for the longest repeat
+// what one byte of a stream can need behind a line
 constexpr std::size_t kRoom = 128 + kPiece;
+
+// In front of the lines, so that there always is a last character to look at.
+constexpr std::size_t kFront = 1;
+
+// Copies `count` characters of the line above, from a column on; how many there were. A repeat
+// beyond the end of that line stands for nothing; damaged streams hold such.
+std::size_t Repeat(std::string_view previous, std::size_t column, std::size_t count, char* to) {
+    if (column >= previous.size()) return 0;
+    count = std::min(count, previous.size() - column);
+    const char* const from = previous.data() + column;
+    for (std::size_t copied = 0; copied < count; copied += kPiece) {
+        // by way of a piece of its own, since the two overlap where the line above is short
+        char piece[kPiece];
+        std::memcpy(piece, from + copied, kPiece);
+        std::memcpy(to + copied, piece, kPiece);
+    }
+    return count;
+}
 
 }  // namespace
 
-ReceivedFileExpander::ReceivedFileExpander(Files& files) : files_(files) {
+ReceivedFileExpander::ReceivedFileExpander(Files& files)
+    : files_(files), lines_(kFirstBuffer, '\0') {
     SetPreviousLine({});
-    line_.Bytes.resize(kRoom);
 }
 
 void ReceivedFileExpander::SetPreviousLine(std::string_view line) {
-    previous_.Bytes = line;
-    previous_.Bytes.resize(line.size() + kRoom);
-    previous_.Length = line.size();
+    previousLength_ = line.size();
+    apart_ = line;
+    apart_.resize(line.size() + kRoom);
+    previousApart_ = true;
 }
 
 Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(
@@ -38,10 +57,10 @@ Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(
     if (!started.Ok()) return started.Why();
     ReplacementFile& output = *started.Value();
 
-    line_.Length = 0;
-    lines_ = 0;
+    SetPreviousLine(PreviousLine());
+    written_ = line_ = end_ = kFront;
+    lineCount_ = 0;
     instrumentSeen_ = false;
-    pending_.clear();
     std::string block(kBlockSize, '\0');
     for (;;) {
         if (keepGoing && !keepGoing()) return Error{ECANCELED, "cancelled"};
@@ -51,70 +70,89 @@ Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(
         Status expanded = ExpandBlock({block.data(), read.Value()}, output);
         if (!expanded.Ok()) return expanded.Why();
     }
-    if (Status written = output.Write(pending_); !written.Ok()) return written.Why();
+    if (Status written = MakeRoom(output); !written.Ok()) return written.Why();
     // the stream may be the file to replace, which must not be open then
     opened.Value().reset();
     if (Status placed = output.Commit(); !placed.Ok()) return placed.Why();
-    return lines_;
+    return lineCount_;
 }
 
 Status ReceivedFileExpander::ExpandBlock(std::string_view block, ReplacementFile& output) {
+    // Taken out of the object, or each character written would make them be fetched again.
+    char* line = lines_.data() + line_;
+    char* to = lines_.data() + end_;
+    char* limit = Limit();
+    const char* previous = Previous();
     for (const char c : block) {
         const auto byte = static_cast<unsigned char>(c);
         if (byte == 0) continue;
-        if (byte >= kFirstRepeat) {
-            const std::size_t before = line_.Length;
-            Repeat(byte - kFirstRepeat);
-            // repeats may reach over the line end above
-            if (line_.Length == before || line_.Bytes[line_.Length - 1] != '\n') continue;
+        if (byte < kFirstRepeat) {
+            *to++ = c;
         } else {
-            if (line_.Length >= kLongestLine && byte != '\n') continue;
-            line_.Bytes[line_.Length++] = c;
-            if (line_.Length + kRoom > line_.Bytes.size()) {
-                line_.Bytes.resize(2 * line_.Bytes.size());
-            }
-            if (byte != '\n') continue;
+            const auto column = static_cast<std::size_t>(to - line);
+            to += Repeat({previous, previousLength_}, column, byte - kFirstRepeat, to);
         }
-        if (Status ended = EndLine(output); !ended.Ok()) return ended;
+        // Also for a repeat; it may reach over the line end above.
+        if (to < limit && to[-1] != '\n') continue;
+        end_ = static_cast<std::size_t>(to - lines_.data());
+        if (end_ > line_ && to[-1] == '\n') EndLine();
+        end_ = std::min(end_, line_ + kLongestLine);
+        if (end_ + kRoom >= lines_.size()) {
+            if (Status made = MakeRoom(output); !made.Ok()) return made;
+        }
+        line = lines_.data() + line_;
+        to = lines_.data() + end_;
+        limit = Limit();
+        previous = Previous();
     }
+    end_ = static_cast<std::size_t>(to - lines_.data());
     return {};
 }
 
-void ReceivedFileExpander::Repeat(std::size_t count) {
-    // A repeat beyond the end of the line above stands for nothing; damaged streams hold such.
-    if (line_.Length >= previous_.Length) return;
-    count = std::min(count, previous_.Length - line_.Length);
-    char* to = line_.Bytes.data() + line_.Length;
-    const char* from = previous_.Bytes.data() + line_.Length;
-    for (std::size_t copied = 0; copied < count; copied += kPiece) {
-        std::memcpy(to + copied, from + copied, kPiece);
-    }
-    line_.Length += count;
-    if (line_.Length + kRoom > line_.Bytes.size()) line_.Bytes.resize(2 * line_.Bytes.size());
+// Where the line being built has to be looked at: no room behind it, or too long.
+char* ReceivedFileExpander::Limit() {
+    return lines_.data() + std::min(lines_.size() - kRoom, line_ + kLongestLine);
 }
 
-Status ReceivedFileExpander::EndLine(ReplacementFile& output) {
+void ReceivedFileExpander::EndLine() {
+    char* const line = lines_.data() + line_;
+    std::size_t length = end_ - line_;
     // What the link brings in front of the first header on its line is no part of the file.
     if (!instrumentSeen_) {
-        const std::string_view line(line_.Bytes.data(), line_.Length);
-        const auto header = line.find("INSTRUMENT:");
+        const auto header = std::string_view(line, length).find("INSTRUMENT:");
         if (header != std::string_view::npos) {
             instrumentSeen_ = true;
-            std::memmove(line_.Bytes.data(), line_.Bytes.data() + header, line.size() - header);
-            line_.Length -= header;
+            length -= header;
+            std::memmove(line, line + header, length);
         }
     }
-    // always two characters for the line end: a line that ends in a bare LF loses its last
-    // character, as it does in every file that users have from this instrument
-    pending_.append(line_.Bytes, 0, line_.Length < 2 ? 0 : line_.Length - 2);
-    pending_ += "\r\n";
-    ++lines_;
-    // With its own line end, as received: repeats may reach over it.
-    std::swap(line_, previous_);
-    line_.Length = 0;
-    if (pending_.size() < kBlockSize) return {};
-    Status written = output.Write(pending_);
-    pending_.clear();
+    ++lineCount_;
+    if (length >= 2 && line[length - 2] == '\r') {
+        previousApart_ = false;
+        previousLength_ = length;
+        line_ += length;
+    } else {
+        // Always two characters for the line end: a line that ends in a bare LF loses its last
+        // character, as it does in every file that users have from this instrument. What repeats
+        // refer to is the line as received.
+        SetPreviousLine({line, length});
+        const std::size_t kept = length < 2 ? 0 : length - 2;
+        line[kept] = '\r';
+        line[kept + 1] = '\n';
+        line_ += kept + 2;
+    }
+    end_ = line_;
+}
+
+// Hands the finished lines to the file and moves what is still needed to the front.
+Status ReceivedFileExpander::MakeRoom(ReplacementFile& output) {
+    Status written = output.Write(std::string_view(lines_).substr(written_, line_ - written_));
+    const std::size_t from = previousApart_ ? line_ : line_ - previousLength_;
+    std::memmove(lines_.data() + kFront, lines_.data() + from, end_ - from);
+    line_ -= from - kFront;
+    end_ -= from - kFront;
+    written_ = line_;
+    if (end_ > lines_.size() / 2) lines_.resize(2 * lines_.size());
     return written;
 }
 

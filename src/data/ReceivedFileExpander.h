@@ -32,27 +32,31 @@ class ReceivedFileExpander {
 
     // The line above the first one of the next transfer, with its line end; empty when there is
     // none.
-    std::string PreviousLine() const { return previous_.Bytes.substr(0, previous_.Length); }
+    std::string PreviousLine() const { return {Previous(), previousLength_}; }
     // Puts another line there, to repeat a transfer as it was.
     void SetPreviousLine(std::string_view line);
 
   private:
-    // A line in a buffer that is always longer than the line by the room that one byte of a stream
-    // can need.
-    struct Line {
-        std::string Bytes;
-        std::size_t Length = 0;
-    };
-
+    const char* Previous() const {
+        return previousApart_ ? apart_.data() : lines_.data() + line_ - previousLength_;
+    }
     Status ExpandBlock(std::string_view block, ReplacementFile& output);
-    void Repeat(std::size_t count);
-    Status EndLine(ReplacementFile& output);
+    char* Limit();
+    void EndLine();
+    Status MakeRoom(ReplacementFile& output);
 
     Files& files_;
-    Line previous_;
-    Line line_;
-    std::string pending_;  // lines on their way to the file
-    std::int64_t lines_ = 0;
+    // The lines on their way to the file, and behind them the one that is being built: nearly every
+    // line is put together where it is written from, just below the one that it repeats.
+    std::string lines_;
+    std::size_t written_ = 0;  // bytes of lines_ that the file has already
+    std::size_t line_ = 0;     // where the line being built begins,
+    std::size_t end_ = 0;      // and where it ends so far
+    // The line above when it is not what stands in front of line_, as received.
+    std::string apart_;
+    bool previousApart_ = true;
+    std::size_t previousLength_ = 0;
+    std::int64_t lineCount_ = 0;
     bool instrumentSeen_ = false;
 };
 

@@ -5,6 +5,11 @@
 
 namespace brask::link_texts {
 
+// the window of the download
+inline constexpr auto kDownloadTitle = TextRow("link", "Get Data From Talvex© K42");
+inline constexpr auto kElapsed = TextRow("link", "Elapsed time: %1");
+inline constexpr auto kCancel = TextRow("link", "Cancel");
+
 // the labels of the download, in the order of their appearance
 inline constexpr auto kWaitingFor = TextRow("link", "Waiting for Talvex© K42");
 inline constexpr auto kToConnect = TextRow("link", "to connect over IRDA");

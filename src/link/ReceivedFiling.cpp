@@ -1,5 +1,6 @@
 #include "link/ReceivedFiling.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -18,6 +19,8 @@ namespace {
 using namespace link_texts;
 
 constexpr std::uint64_t kShortestFile = 10;
+// what file systems take
+constexpr std::size_t kLongestName = 255;
 // leaves room for a full stop and an ending in any file system's names
 constexpr std::size_t kLongestStem = 200;
 
@@ -27,7 +30,14 @@ std::string ReceivedFileName(std::string_view instrument, const CivilDateTime& n
     std::array<char, 64> stamp{};
     std::snprintf(stamp.data(), stamp.size(), " %02d_%02d_%04d_%02d_%02d_%02d.csv", now.Date.Month,
                   now.Date.Day, now.Date.Year, now.Hour, now.Minute, now.Second);
-    return SafeFileName("K42 " + Windows1252ToUtf8(instrument), stamp.data());
+    constexpr std::string_view kPrefix = "K42 ";
+    // cut here, so that time and ending are never what goes
+    const std::size_t room = kLongestName - kPrefix.size() - std::string_view(stamp.data()).size();
+    std::string text(instrument.substr(0, room));
+    // no byte of an instrument is that large; here it would be half a character
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; }, '_');
+    return SafeFileName(std::string(kPrefix) + text + stamp.data());
 }
 
 ReceivedFiling::ReceivedFiling(const LinkSystem& system, const LinkData& data,

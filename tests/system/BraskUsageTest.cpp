@@ -12,7 +12,7 @@ TEST_F(BraskUsage, WrongUsageIsOneLineAndStatusTwo) {
     using Case = std::pair<std::vector<std::string>, const char*>;
     const Case cases[] = {{{}, "no command given"},
                           {{"two\nlines"}, "unknown command \"two lines\""},
-                          {{"help", "verify"}, "unknown command \"verify\""},
+                          {{"help", "nothing"}, "unknown command \"nothing\""},
                           {{"plot", "a", "-o", "a.jpg"}, "neither .bmp nor .png"},
                           {{"expand", "a"}, "-o is missing"},
                           {{"settings", "reset", "a", "b"}, "settings get KEY"}};

@@ -2,6 +2,7 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 #include "app/OptionTexts.h"
@@ -33,7 +34,14 @@ QGroupBox* ProgramOptionsPage::BuildProgramFrame() {
     for (QCheckBox* box : {chkOpenFullSize, chkNotifyUserNewFiles, chkAutoDeleteK42}) {
         frame->layout()->addWidget(box);
     }
+    MakeLive(chkNotifyUserNewFiles, "NotifyUserOfNewFiles");
+    MakeLive(chkAutoDeleteK42, "AutoClear");
     return frame;
+}
+
+void ProgramOptionsPage::MakeLive(QCheckBox* box, const char* key) {
+    box->setEnabled(true);
+    connect(box, &QCheckBox::toggled, this, [this, key](bool on) { emit FlagChosen(key, on); });
 }
 
 QGroupBox* ProgramOptionsPage::BuildDirectoryFrame() {
@@ -64,15 +72,50 @@ QGroupBox* ProgramOptionsPage::BuildLinksFrame() {
         return box;
     };
     cmbInstrumentAddress = address("cmbInstrumentAddress");
+    BuildInstrumentChoice();
     cmbHandheldAddress = address("cmbHandheldAddress");
     auto* handheld = new QHBoxLayout;
     handheld->addWidget(cmbHandheldAddress, 1);
-    handheld->addWidget(controls_.Button("cmdBrowseHandheld", kBrowse));
+    BuildHandheldChoice();
+    handheld->addWidget(cmdBrowseHandheld);
     auto* form = new QFormLayout;
     form->addRow(ToQt(texts_, kInstrumentLink), cmbInstrumentAddress);
     form->addRow(ToQt(texts_, kHandheld), handheld);
     static_cast<QVBoxLayout*>(frame->layout())->addLayout(form);
     return frame;
+}
+
+void ProgramOptionsPage::BuildInstrumentChoice() {
+    cmbInstrumentAddress->setEnabled(true);
+    cmbInstrumentAddress->setAccessibleName(ToQt(texts_, kInstrumentLink));
+    // what was typed is no entry before it is known to be an address
+    cmbInstrumentAddress->setInsertPolicy(QComboBox::NoInsert);
+    cmbInstrumentAddress->addItem(QStringLiteral("irda"));
+    cmbInstrumentAddress->lineEdit()->setPlaceholderText(ToQt(texts_, kInstrumentHint));
+    const auto chosen = [this] {
+        const QString address = cmbInstrumentAddress->currentText();
+        if (address != instrument_) emit InstrumentAddressChosen(address);
+    };
+    connect(cmbInstrumentAddress->lineEdit(), &QLineEdit::editingFinished, this, chosen);
+    connect(cmbInstrumentAddress, &QComboBox::activated, this, chosen);
+}
+
+void ProgramOptionsPage::BuildHandheldChoice() {
+    cmbHandheldAddress->setEnabled(true);
+    cmbHandheldAddress->setAccessibleName(ToQt(texts_, kHandheld));
+    // what was typed is no entry before it is known to be an address
+    cmbHandheldAddress->setInsertPolicy(QComboBox::NoInsert);
+    cmbHandheldAddress->lineEdit()->setPlaceholderText(ToQt(texts_, kHandheldHint));
+    cmdBrowseHandheld = controls_.Button("cmdBrowseHandheld", kBrowse);
+    cmdBrowseHandheld->setEnabled(true);
+    const auto chosen = [this] {
+        if (cmbHandheldAddress->currentText() == handheld_) return;
+        emit HandheldAddressChosen(cmbHandheldAddress->currentText());
+    };
+    connect(cmbHandheldAddress->lineEdit(), &QLineEdit::editingFinished, this, chosen);
+    connect(cmbHandheldAddress, &QComboBox::activated, this, chosen);
+    connect(cmdBrowseHandheld, &QPushButton::clicked, this,
+            [this] { emit HandheldBrowseWanted(); });
 }
 
 void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
@@ -93,8 +136,26 @@ void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
 
 void ProgramOptionsPage::ShowAddresses(const QString& instrument, const QString& handheld) {
     // not added to the list: that is for what a search finds
-    cmbInstrumentAddress->setEditText(instrument);
+    ShowInstrumentAddress(instrument);
+    ShowHandheldAddress(handheld);
+}
+
+void ProgramOptionsPage::ShowHandheldAddress(const QString& handheld) {
+    handheld_ = handheld;
+    // the ones used in this run, to change between them
+    if (!handheld.isEmpty() && cmbHandheldAddress->findText(handheld) < 0) {
+        cmbHandheldAddress->addItem(handheld);
+    }
     cmbHandheldAddress->setEditText(handheld);
+}
+
+void ProgramOptionsPage::ShowInstrumentAddress(const QString& instrument) {
+    instrument_ = instrument;
+    // the ones used in this run, to change between them
+    if (!instrument.isEmpty() && cmbInstrumentAddress->findText(instrument) < 0) {
+        cmbInstrumentAddress->addItem(instrument);
+    }
+    cmbInstrumentAddress->setEditText(instrument);
 }
 
 }  // namespace brask

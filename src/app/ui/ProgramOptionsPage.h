@@ -23,8 +23,10 @@ struct DirectoryOptions {
     QString UserDirectory;
 };
 
-// Nothing can be changed here yet: all controls are disabled until their work exists.
+// Controls whose work does not exist yet are disabled.
 class ProgramOptionsPage final : public QWidget {
+    Q_OBJECT
+
   public:
     // Texts must outlive the page.
     ProgramOptionsPage(const Texts& texts, QWidget* parent);
@@ -37,12 +39,28 @@ class ProgramOptionsPage final : public QWidget {
     // The links in force, as they are stored.
     // Shown as typed; nothing is looked up.
     void ShowAddresses(const QString& instrument, const QString& handheld);
+    // The instrument's address alone; sends nothing.
+    void ShowInstrumentAddress(const QString& instrument);
+    // The handheld's address alone; sends nothing.
+    void ShowHandheldAddress(const QString& handheld);
+
+  signals:
+    // A box was set or cleared; the key is the setting's. Also sent when options are shown, under
+    // the loading guard.
+    void FlagChosen(const char* key, bool on);
+    // Typed or chosen from the lists, and another one than shown before; not checked yet.
+    void InstrumentAddressChosen(const QString& address);
+    void HandheldAddressChosen(const QString& address);
+    void HandheldBrowseWanted();
 
   private:
     // One frame each, from top to bottom.
     QGroupBox* BuildProgramFrame();
     QGroupBox* BuildDirectoryFrame();
     QGroupBox* BuildLinksFrame();
+    void BuildInstrumentChoice();
+    void MakeLive(QCheckBox* box, const char* key);
+    void BuildHandheldChoice();
 
     const Texts& texts_;
     OptionControls controls_;
@@ -58,6 +76,10 @@ class ProgramOptionsPage final : public QWidget {
     QButtonGroup* optDataAccess = nullptr;
     QComboBox* cmbInstrumentAddress = nullptr;
     QComboBox* cmbHandheldAddress = nullptr;
+    QPushButton* cmdBrowseHandheld = nullptr;
+    // As shown last.
+    QString instrument_;
+    QString handheld_;
 };
 
 }  // namespace brask

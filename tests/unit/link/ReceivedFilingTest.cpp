@@ -59,7 +59,8 @@ TEST(ReceivedFiling, WhateverTheInstrumentIsCalledTheFileLiesInItsDirectory) {
         {"../../x", "K42 .._.._x" + stamp},
         {"a\\b:c*d?e\"f<g>h|i\x7F\x01\tj", "K42 a_b_c_d_e_f_g_h_i___j" + stamp},
         {std::string(300, 'x'), "K42 " + std::string(255 - 4 - stamp.size(), 'x') + stamp},
-        {"", "K42_" + stamp}};
+        {"A1.", "K42 A1." + stamp},
+        {"", "K42 " + stamp}};
     for (const auto& [text, name] : cases) {
         EXPECT_EQ(ReceivedFileName(text, {{2004, 3, 5}, 13, 30, 0}), name);
         EXPECT_LE(name.size(), 255U);
