@@ -4,7 +4,6 @@
 #include <iterator>
 #include <set>
 
-#include "StartProgram.h"
 #include "platform/NativeSystem.h"
 
 namespace brask {

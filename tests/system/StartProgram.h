@@ -35,7 +35,14 @@ class RunningProgram {
 std::unique_ptr<RunningProgram> StartProgram(const std::string& program,
                                              const std::vector<std::string>& words);
 
-// Sends programs that start from now on to this home, where the system lets us.
+// Programs that start from now on find what a new user finds: no settings, no log; in this home
+// where the system lets us choose it.
 void LiveIn(const std::string& home);
+
+// Where programs that live in this home write their log.
+std::string LogPath(const std::string& home);
+
+// The system's number of a refused connection.
+int RefusedConnection();
 
 }  // namespace brask

@@ -16,7 +16,7 @@ TEST_F(BraskOnPosix, TheUsersOwnStoreIsAFileBelowTheConfiguration) {
 
     Write("config/VEK/Brask Lite.ini", "no setting\n");
     EXPECT_EQ(Run({"settings", "get", "GraphType"}).Out, "0\n");
-    EXPECT_NE(Read("state/VEK/VEKLog.Txt").find("Brask Lite.ini.bad"), std::string::npos);
+    EXPECT_NE(Log().find("Brask Lite.ini.bad"), std::string::npos);
 }
 
 TEST_F(BraskOnPosix, WhatIsNoFileOrMissingIsNamedInTheSystemsWords) {
@@ -27,6 +27,12 @@ TEST_F(BraskOnPosix, WhatIsNoFileOrMissingIsNamedInTheSystemsWords) {
         EXPECT_EQ(MessagesOf(Json({"info", At(name)}, 1)).at(0),
                   "Cannot read " + At(name) + ": " + reason);
     }
+}
+
+TEST_F(BraskOnPosix, TheHandheldIsAFolderThatIsYetToBeNamed) {
+    const Finished finished = Run({"retrieve"});
+    EXPECT_EQ(finished.Status, 1);
+    EXPECT_EQ(finished.Error, "Unable to connect to PocketPC\n");
 }
 
 TEST_F(BraskOnPosix, AResultThatCannotBeWrittenIsAFailure) {

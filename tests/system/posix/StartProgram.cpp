@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <utility>
@@ -84,5 +85,9 @@ void LiveIn(const std::string& home) {
     }
     setenv("LC_ALL", "C.UTF-8", 1);
 }
+
+std::string LogPath(const std::string& home) { return home + "/state/VEK/VEKLog.Txt"; }
+
+int RefusedConnection() { return ECONNREFUSED; }
 
 }  // namespace brask

@@ -104,7 +104,16 @@ std::unique_ptr<RunningProgram> StartProgram(const std::string& program,
     return std::make_unique<Child>(Start(program, words, With(in, out, error)), std::move(output));
 }
 
-// The user's folders and settings are the system's business; tests that use them clean up.
-void LiveIn(const std::string&) {}
+// Folders and settings are the system's, so the traces of the test before are removed; but only
+// under Wine, where they are nobody's.
+void LiveIn(const std::string& home) {
+    if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr) return;
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VEK");
+    DeleteFileW(windows::ToWide(LogPath(home)).c_str());
+}
+
+std::string LogPath(const std::string&) { return "C:\\VEKLog.Txt"; }
+
+int RefusedConnection() { return WSAECONNREFUSED; }
 
 }  // namespace brask
