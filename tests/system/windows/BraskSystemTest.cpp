@@ -3,6 +3,7 @@
 
 #include "ProgramRunner.h"
 #include "platform/windows/WindowsRegistry.h"
+#include "platform/windows/WindowsText.h"
 
 namespace brask {
 namespace {
@@ -33,6 +34,26 @@ TEST_F(BraskOnWindows, NamesOfEveryLanguageReachTheProgramAndTheDocument) {
               0U);
     // lines end as everywhere, also in a document that a script takes apart
     EXPECT_EQ(Run({"list", file}).Out.find('\r'), std::string::npos);
+}
+
+TEST_F(BraskOnWindows, AHandheldIsEmptiedThroughTheRemoteAccessLibrary) {
+    Write("pda/TalvexPDA/collections/Run 2.csv", std::string(10000, 'x'));
+    Write("pda/TalvexPPC/collections/Run 1.csv", "one");
+    SetEnvironmentVariableW(L"HANDHELD_ROOT", windows::ToWide(At("pda")).c_str());
+    const std::string out = At("out.json");
+    ASSERT_EQ(RunToEnd("with-rapi/brask", {"retrieve", "--root", At("pc"), "--yes", "--json"},
+                       {out, At("err")}),
+              0)
+        << Read("err");
+    rapidjson::Document document;
+    document.Parse(Read(out).c_str());
+    ASSERT_EQ(document["files"].Size(), 2U);
+    for (const auto& file : document["files"].GetArray()) {
+        EXPECT_TRUE(file["downloaded"].IsTrue() && file["deleted"].IsTrue());
+    }
+    EXPECT_EQ(Read("pc/VEK/From PocketPC/Run 2.csv"), std::string(10000, 'x'));
+    EXPECT_EQ(Read("pc/VEK/From PocketPC/Run 1.csv"), "one");
+    EXPECT_EQ(Listing().find("pda\\TalvexPDA\\collections\\"), std::string::npos) << Listing();
 }
 
 TEST_F(BraskOnWindows, TheLogLiesWhereSupportLooks) {
