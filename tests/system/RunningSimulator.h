@@ -21,8 +21,8 @@ class RunningSimulator {
     std::string Address() const { return "tcp:127.0.0.1:" + std::to_string(port_); }
     // Reads what it tells up to a line that holds this text; false when it ended before.
     bool Tells(const std::string& text);
-    // Ctrl+C.
-    void Interrupt() const { process_->Interrupt(); }
+    // Ctrl+C; false when there is no console that could send it.
+    bool Interrupt() const { return process_->Interrupt(); }
     // Waits for its end; the exit status, -1 when a signal ended it.
     int ExitStatus() { return process_->ExitStatus(); }
 

@@ -24,8 +24,8 @@ class RunningProgram {
 
     // The next line of its standard output, without the line end; empty at the end.
     virtual std::string ReadLine() = 0;
-    // What Ctrl+C does to a program.
-    virtual void Interrupt() const = 0;
+    // What Ctrl+C does to a program; false when there is no console that could.
+    virtual bool Interrupt() const = 0;
     // Waits for its end; the exit status, -1 when a signal ended it.
     virtual int ExitStatus() = 0;
 };

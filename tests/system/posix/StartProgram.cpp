@@ -30,7 +30,7 @@ class Child final : public RunningProgram {
         while (read(output_, &c, 1) == 1 && c != '\n') line += c;
         return line;
     }
-    void Interrupt() const override { kill(process_, SIGINT); }
+    bool Interrupt() const override { return kill(process_, SIGINT) == 0; }
     int ExitStatus() override {
         int state = 0;
         waitpid(std::exchange(process_, 0), &state, 0);

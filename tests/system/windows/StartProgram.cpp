@@ -68,8 +68,8 @@ class Child final : public RunningProgram {
         }
         return line;
     }
-    void Interrupt() const override {
-        GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(process_.Get()));
+    bool Interrupt() const override {
+        return GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(process_.Get())) != 0;
     }
     int ExitStatus() override { return StatusOf(process_); }
 
