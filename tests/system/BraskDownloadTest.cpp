@@ -3,6 +3,7 @@
 
 #include "ProgramRunner.h"
 #include "RunningSimulator.h"
+#include "platform/NativeSystem.h"
 
 namespace brask {
 namespace {
@@ -17,7 +18,6 @@ class BraskDownload : public ProgramTest {
                                          simulator.Address(), "--timeout", "5"});
         return Json(options, status);
     }
-    std::string Log() const { return Read("state/VEK/VEKLog.Txt"); }
 };
 
 TEST_F(BraskDownload, FilesClearsAndCanBeRepeatedFromTheRawStream) {
@@ -50,15 +50,17 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
     // the simulator's options; the exit status, a part of the last message ("" for none at all), or
     // of the log
     using Case = std::tuple<std::vector<std::string>, int, std::string, std::string>;
+    const std::string refused = std::to_string(RefusedConnection());
+    const std::string refusedText = NativeSystem().Information().ErrorText(RefusedConnection());
     const Case cases[] = {
         {{"--block", "1", "--name", " vek tk42 "}, 0, "", "accepted with 468"},
         {{"--block", "8191", "--merge", "3", "--filler", "7"}, 0, "", "accepted with 468"},
         {{"--drop-line", "7"}, 1, "Received 467 lines\r\nExpected 468 Lines", ""},
         {{"--silent-after", "700"}, 1, "", "no END DATA: line"},
         {{"--cut-after", "0"}, 1, "", "closed before the first byte"},
-        {{"--refuse", "111"},
+        {{"--refuse", refused},
          1,
-         "Error Description:Connection refused\r\nError Number:111\r\n[Connect]",
+         "Error Description:" + refusedText + "\r\nError Number:" + refused + "\r\n[Connect]",
          ""},
         {{"--refuse", "4711"}, 1, "Socket Connect Error is Unknown\r\nError=4711", ""},
         {{"--no-clear-answer"}, 0, "Clear Data Acknowledge Not Received!", ""},

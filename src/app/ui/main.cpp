@@ -116,7 +116,8 @@ int RunWindow(int argc, char** argv) {
     // Each object is given what stands above it, so they go in the opposite order, the window
     // first.
     DiagnosticLog log(native.Disk(), native.Time());
-    StoredSettings stored({native.Disk(), native.Locale(), texts, log}, FromQt(line.Settings),
+    StoredSettings stored({native.Disk(), native.Stores(), native.Locale(), texts, log},
+                          FromQt(line.Settings),
                           [&user](const std::string& text) { user.ShowNotice(text); });
     DataSet data;
     TemperatureUnit unit(stored.Options().Number("DisplayTemperatureUnits") != 0);
