@@ -113,7 +113,7 @@ class TcpInfrared : public testing::Test {
 
     NativeSystem system_;
     Tcp& network_ = system_.Network();
-    std::unique_ptr<TcpListener> listener_;
+    std::unique_ptr<TcpListener> listener_ = std::move(network_.Listen({"127.0.0.1", 0}).Value());
     std::unique_ptr<TcpStream> peer_;
     std::unique_ptr<InfraredSocket> socket_;
     InfraredDeviceList devices_{};
