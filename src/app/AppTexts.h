@@ -24,6 +24,11 @@ inline constexpr auto kSaveFilter = TextRow("app", "CSV File|*.csv|All Files|*.*
 // A message, or a notice in the status bar; %1 is what was typed or stored.
 inline constexpr auto kBadInstrument =
     TextRow("app", "%1 is no address of an instrument: say \"irda\" or \"tcp:HOST:PORT\"");
+inline constexpr auto kHandheldFolder =
+    TextRow("app", "Select The Folder Of The Handheld Or Its Card");
+// A notice in the status bar; %1 is what was typed.
+inline constexpr auto kBadHandheld =
+    TextRow("app", "%1 is no address of a handheld: say \"rapi\" or \"dir:\" and a folder");
 // A notice in the status bar; %1 is the full path.
 inline constexpr auto kDataSaved = TextRow("app", "Data saved: %1");
 
@@ -99,6 +104,8 @@ inline constexpr auto kUsageInstrument =
 inline constexpr auto kUsageDownload = TextRow("app", "download from the instrument at once");
 inline constexpr auto kUsageBadInstrument =
     TextRow("app", "--instrument takes irda or tcp:HOST:PORT");
+inline constexpr auto kUsageHandheld = TextRow("app", "link to the handheld: rapi or dir:PATH");
+inline constexpr auto kUsageBadHandheld = TextRow("app", "--handheld takes rapi or dir:PATH");
 inline constexpr auto kUsageBadOrder = TextRow("app", "--date-order takes mdy, dmy or ymd");
 inline constexpr auto kUsageOneFile = TextRow("app", "one FILE at most");
 

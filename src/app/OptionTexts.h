@@ -105,5 +105,8 @@ inline constexpr auto kOneUser = TextRow("options", "User %1 (%2)");
 inline constexpr auto kInstrumentLink = TextRow("options", "Instrument Link");
 inline constexpr auto kInstrumentHint = TextRow("options", "irda, or tcp:HOST:PORT");
 inline constexpr auto kHandheld = TextRow("options", "Handheld");
+// Stands in the box while it is empty.
+inline constexpr auto kHandheldHint =
+    TextRow("options", "dir: and the folder that the handheld or its card appears in");
 
 }  // namespace brask::option_texts

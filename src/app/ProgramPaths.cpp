@@ -18,9 +18,4 @@ std::string ConnectionText(const std::string& programDirectory, char separator) 
            "BraskLite.mdb;Mode=ReadWrite|Share Deny None;Persist Security Info=False";
 }
 
-bool SyncSoftwareInstalled(const Files& files) {
-    // other systems have no such directory, and there the answer is no
-    return files.IsDirectory("c:\\program files\\Microsoft activesync");
-}
-
 }  // namespace brask

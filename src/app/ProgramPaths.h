@@ -3,8 +3,6 @@
 
 #include <string>
 
-#include "platform/Files.h"
-
 namespace brask {
 
 // The help file: below "HtmlHelp" when the program lies in a directory called "Talvex K42 PC" (any
@@ -14,8 +12,5 @@ std::string HelpFilePath(const std::string& programDirectory, char separator);
 // How the database beside the program would be opened. Kept since other tools of the house ask for
 // it; the program stores no data in a database.
 std::string ConnectionText(const std::string& programDirectory, char separator);
-
-// Whether a handheld synchronization program is installed.
-bool SyncSoftwareInstalled(const Files& files);
 
 }  // namespace brask

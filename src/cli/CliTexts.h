@@ -26,6 +26,8 @@ inline constexpr auto kNotAPicture =
 // %2 is the longest side, %3 the most pixels in all.
 inline constexpr auto kNotASize =
     TextRow("cli", "option --size: %1 is no WIDTHxHEIGHT from 1x1 to %2x%2 of at most %3 pixels");
+inline constexpr auto kBadHandheld =
+    TextRow("cli", "option --handheld: %1 is neither rapi nor dir:PATH");
 inline constexpr auto kHalfAPeriod = TextRow("cli", "--from and --to belong together");
 // %3 says what is wanted: one of the next two.
 inline constexpr auto kNotATime = TextRow("cli", "option %1: %2 is no %3");
@@ -47,6 +49,8 @@ inline constexpr auto kNoConnection =
     TextRow("cli", "No connection to the instrument (%1) within %2 seconds");
 inline constexpr auto kNotAccepted = TextRow("cli", "Not accepted; the log %1 says why");
 inline constexpr auto kUnknownSetting = TextRow("cli", "There is no setting %1");
+inline constexpr auto kBadStoredHandheld =
+    TextRow("cli", "The stored address of the handheld, %1, is neither rapi nor dir:PATH");
 inline constexpr auto kCannotStart = TextRow("cli", "Cannot start %1: %2");
 inline constexpr auto kCannotWriteResult = TextRow("cli", "brask: cannot write the result: %1");
 inline constexpr auto kNoMemory = TextRow("cli", "brask: not enough memory");
@@ -57,6 +61,11 @@ inline constexpr auto kLinesWritten = TextRow("cli", "%1: %2 lines");
 inline constexpr auto kDownloaded = TextRow("cli", "%1: %2 bytes received");
 inline constexpr auto kDownloadedAndCleared =
     TextRow("cli", "%1: %2 bytes received, instrument cleared");
+// %1 is a name; %2 and %3 are one of the next two.
+inline constexpr auto kRetrieved =
+    TextRow("cli", "%1: downloaded: %2, deleted on the handheld: %3");
+inline constexpr auto kYes = TextRow("cli", "yes");
+inline constexpr auto kNo = TextRow("cli", "no");
 inline constexpr auto kPictureWritten = TextRow("cli", "%1: %2 x %3 pixels");
 inline constexpr auto kPlotLineColor =
     TextRow("settings", "colour of a plot line, in the order that lines take them");

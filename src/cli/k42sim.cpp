@@ -34,8 +34,7 @@ Result<SimulatedInstrument> ReadInstrument(Files& files, const K42Request& reque
     return SimulatedInstrument::Create(bytes.Value(), request.Behaviour, texts);
 }
 
-ExitStatus Play(const K42Request& request, const Texts& texts) {
-    NativeSystem system;
+ExitStatus Play(NativeSystem& system, const K42Request& request, const Texts& texts) {
     auto instrument = ReadInstrument(system.Disk(), request, texts);
     if (!instrument.Ok()) {
         return Fail(ExitStatus::kFailed,
@@ -56,7 +55,9 @@ ExitStatus Play(const K42Request& request, const Texts& texts) {
         .Run(request.Once);
 }
 
-ExitStatus RunWords(std::span<const std::string> words) {
+ExitStatus RunWords(std::span<char* const> arguments) {
+    NativeSystem system;
+    const std::vector<std::string> words = system.OtherPrograms().CommandWords(arguments);
     const EnglishTexts texts;
     const auto line = CommandLine::ParseProgram(K42Program(), words, texts);
     if (!line.Ok()) return Fail(ExitStatus::kUsage, line.Why().Reason);
@@ -71,15 +72,14 @@ ExitStatus RunWords(std::span<const std::string> words) {
     }
     const auto request = ReadK42Request(line.Value(), texts);
     if (!request.Ok()) return Fail(ExitStatus::kUsage, request.Why().Reason);
-    return Play(request.Value(), texts);
+    return Play(system, request.Value(), texts);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     try {
-        const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
-        return static_cast<int>(RunWords(words));
+        return static_cast<int>(RunWords({argv, static_cast<std::size_t>(argc)}));
     } catch (const std::bad_alloc&) {
         std::fprintf(stderr, "%s\n", k42_texts::kNoMemory.English);
         return static_cast<int>(ExitStatus::kFailed);

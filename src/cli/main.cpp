@@ -9,6 +9,7 @@
 #include "cli/ListCommand.h"
 #include "cli/PlotCommand.h"
 #include "cli/PlotRequest.h"
+#include "cli/RetrieveCommand.h"
 #include "cli/SettingsCommand.h"
 #include "cli/Shell.h"
 #include "cli/VerifyCommand.h"
@@ -38,6 +39,8 @@ const auto kCommands = std::to_array<brask::CommandRow>({
      brask::RunVerify},
     {"download", "", TextRow("cli", "download the readings of the instrument"),
      brask::DownloadOptionRows(), 0, 0, brask::RunDownload},
+    {"retrieve", "", TextRow("cli", "collect the readings of a handheld"), brask::RetrieveOptions(),
+     0, 0, brask::RunRetrieve},
     {"settings",
      "list | get KEY | set KEY VALUE",
      TextRow("cli", "show or change stored options"),

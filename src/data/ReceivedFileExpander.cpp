@@ -71,6 +71,8 @@ Result<std::int64_t> ReceivedFileExpander::ExpandReceivedFile(
         if (!expanded.Ok()) return expanded.Why();
     }
     if (Status written = MakeRoom(output); !written.Ok()) return written.Why();
+    // the stream may be the file to replace, which must not be open then
+    opened.Value().reset();
     if (Status placed = output.Commit(); !placed.Ok()) return placed.Why();
     return lineCount_;
 }

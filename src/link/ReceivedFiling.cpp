@@ -109,6 +109,8 @@ bool ReceivedFiling::Place(const std::string& expandedPath, const std::string& t
             const std::string line = system_.Words.Fill(kNotReplaced, {target, kept.Why().Reason});
             data_.Log.WriteLog(line);
             system_.User.ShowNotice(line);
+            // the stream itself stays, so it can be expanded again
+            static_cast<void>(system_.Disk.Remove(expandedPath).Ok());
             return false;
         }
     }

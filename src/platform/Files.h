@@ -36,7 +36,8 @@ class ReplacementFile {
     // Bytes are collected, so that many small writes cost little; a full disk may therefore show
     // only at a later Write or at Commit.
     virtual Status Write(std::string_view bytes) = 0;
-    // Flushes to disk, renames over the target, flushes the directory. To be called once, last.
+    // Flushes to disk, renames over the target, flushes the directory. To be called once, last, and
+    // with the target closed: Windows does not replace a file that is open.
     // When it fails the target still holds the old file, unless only the last flush of the
     // directory failed, when the new one stands but may not survive a power cut.
     virtual Status Commit() = 0;

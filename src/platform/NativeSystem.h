@@ -13,6 +13,7 @@
 #include "platform/SystemInformation.h"
 #include "platform/Tcp.h"
 #include "platform/UserLocale.h"
+#include "platform/UserStores.h"
 
 namespace brask {
 
@@ -28,6 +29,7 @@ class NativeSystem {
     Files& Disk();
     Programs& OtherPrograms();
     Tcp& Network();
+    UserStores& Stores();
     const Clock& Time() const;
     const UserLocale& Locale() const;
     const SystemInformation& Information() const;

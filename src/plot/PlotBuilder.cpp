@@ -81,15 +81,19 @@ PlotBuilder::PlotBuilder(Chart& chart, const DataSet& data, const UserLocale& lo
                          const Texts& texts)
     : chart_(chart), data_(data), locale_(locale), texts_(texts) {}
 
-void PlotBuilder::Rebuild(const PlotOptions& options) {
+void PlotBuilder::Clear() {
     chart_.Clear();
+    periodStarts_.clear();
+    places_ = {};
+}
+
+void PlotBuilder::Rebuild(const PlotOptions& options) {
+    Clear();
     // Clear leaves these two alone, so they are replaced as a whole
     chart_.Background = options.Background;
     chart_.Readout = texts_.Find(plot_texts::kNoPointSelected);
     extremes_ = {};
-    periodStarts_.clear();
     layout_ = options.Layout;
-    places_ = {};
 
     switch (options.Layout) {
         case GraphType::kContinuous:

@@ -63,12 +63,5 @@ TEST_F(BraskUsage, HelpManualAndCompletionNameTheSameThings) {
     EXPECT_EQ(Run({"--version"}).Out, Run({"info", "--version"}).Out);
 }
 
-TEST_F(BraskUsage, AResultThatCannotBeWrittenIsAFailure) {
-    const std::string file = Write("a.csv", DataLine("JAN-01-2003 00:05:12", "0.1", "26.1"));
-    const Finished finished = Run({"list", file}, "/dev/full");
-    EXPECT_EQ(finished.Status, 1);
-    EXPECT_EQ(finished.Error, "brask: cannot write the result: No space left on device\n");
-}
-
 }  // namespace
 }  // namespace brask

@@ -1,12 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <cstdlib>
+#include <sstream>
 
 #include "ProgramRunner.h"
 #include "RunningSimulator.h"
-#include "platform/posix/PosixTcp.h"
+#include "platform/NativeSystem.h"
 #include "platform/simulated/InfraredFrames.h"
 
 namespace brask {
@@ -55,7 +54,8 @@ class Client {
     }
 
   private:
-    PosixTcp tcp_;
+    NativeSystem system_;
+    Tcp& tcp_ = system_.Network();
     std::unique_ptr<TcpStream> stream_;
     InfraredFrameDecoder decoder_;
 };
@@ -79,7 +79,7 @@ TEST_F(K42Sim, ADownloadGivesTheFileBackAndClearingLastsForTheNextConnection) {
     EXPECT_TRUE(simulator.Tells("#1 command [OUTPUT JAN-05-2004 13:07:42"));
     EXPECT_TRUE(simulator.Tells("#1 command [CLEAR]"));
     EXPECT_TRUE(simulator.Tells("#2 closed"));
-    simulator.Signal(SIGINT);
+    simulator.Interrupt();
     EXPECT_TRUE(simulator.Tells("stopped"));
     EXPECT_EQ(simulator.ExitStatus(), 0);
 }
@@ -136,17 +136,17 @@ TEST_F(K42Sim, WrongUsageIsOneLineAndStatusTwoAndAFailureOne) {
          "cannot listen on 192.0.2.1:1: Cannot assign requested address"},
     };
     for (const auto& [words, status, reason] : cases) {
-        const std::string command = "'" BRASK_BIN "/k42sim' " + words + " >'" + At("out") +
-                                    "' 2>'" + At("err") + "' </dev/null";
-        const int state = std::system(command.c_str());
-        EXPECT_EQ(WEXITSTATUS(state), status) << words;
+        std::vector<std::string> arguments;
+        std::istringstream split(words);
+        for (std::string word; split >> word;) arguments.push_back(word);
+        EXPECT_EQ(RunToEnd("k42sim", arguments, {At("out"), At("err")}), status) << words;
         EXPECT_EQ(Read("err"), "k42sim: " + reason + "\n");
         EXPECT_EQ(Read("out"), "");
     }
 }
 
 TEST_F(K42Sim, HelpManualAndCompletionNameTheSameOptions) {
-    ASSERT_EQ(std::system(("'" BRASK_BIN "/k42sim' --help >'" + At("help") + "'").c_str()), 0);
+    ASSERT_EQ(RunToEnd("k42sim", {"--help"}, {At("help"), At("err")}), 0);
     const std::string manual = Read(BRASK_SHARE "/man/k42sim.1");
     const std::string completion = Read(BRASK_SHARE "/bash-completion/k42sim");
     int options = 0;

@@ -76,7 +76,8 @@ QGroupBox* ProgramOptionsPage::BuildLinksFrame() {
     cmbHandheldAddress = address("cmbHandheldAddress");
     auto* handheld = new QHBoxLayout;
     handheld->addWidget(cmbHandheldAddress, 1);
-    handheld->addWidget(controls_.Button("cmdBrowseHandheld", kBrowse));
+    BuildHandheldChoice();
+    handheld->addWidget(cmdBrowseHandheld);
     auto* form = new QFormLayout;
     form->addRow(ToQt(texts_, kInstrumentLink), cmbInstrumentAddress);
     form->addRow(ToQt(texts_, kHandheld), handheld);
@@ -99,6 +100,24 @@ void ProgramOptionsPage::BuildInstrumentChoice() {
     connect(cmbInstrumentAddress, &QComboBox::activated, this, chosen);
 }
 
+void ProgramOptionsPage::BuildHandheldChoice() {
+    cmbHandheldAddress->setEnabled(true);
+    cmbHandheldAddress->setAccessibleName(ToQt(texts_, kHandheld));
+    // what was typed is no entry before it is known to be an address
+    cmbHandheldAddress->setInsertPolicy(QComboBox::NoInsert);
+    cmbHandheldAddress->lineEdit()->setPlaceholderText(ToQt(texts_, kHandheldHint));
+    cmdBrowseHandheld = controls_.Button("cmdBrowseHandheld", kBrowse);
+    cmdBrowseHandheld->setEnabled(true);
+    const auto chosen = [this] {
+        if (cmbHandheldAddress->currentText() == handheld_) return;
+        emit HandheldAddressChosen(cmbHandheldAddress->currentText());
+    };
+    connect(cmbHandheldAddress->lineEdit(), &QLineEdit::editingFinished, this, chosen);
+    connect(cmbHandheldAddress, &QComboBox::activated, this, chosen);
+    connect(cmdBrowseHandheld, &QPushButton::clicked, this,
+            [this] { emit HandheldBrowseWanted(); });
+}
+
 void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
                                      const DirectoryOptions& directories) {
     chkNotifyUserNewFiles->setChecked(options.NotifyUserOfNewFiles);
@@ -118,6 +137,15 @@ void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
 void ProgramOptionsPage::ShowAddresses(const QString& instrument, const QString& handheld) {
     // not added to the list: that is for what a search finds
     ShowInstrumentAddress(instrument);
+    ShowHandheldAddress(handheld);
+}
+
+void ProgramOptionsPage::ShowHandheldAddress(const QString& handheld) {
+    handheld_ = handheld;
+    // the ones used in this run, to change between them
+    if (!handheld.isEmpty() && cmbHandheldAddress->findText(handheld) < 0) {
+        cmbHandheldAddress->addItem(handheld);
+    }
     cmbHandheldAddress->setEditText(handheld);
 }
 

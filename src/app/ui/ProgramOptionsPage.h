@@ -41,13 +41,17 @@ class ProgramOptionsPage final : public QWidget {
     void ShowAddresses(const QString& instrument, const QString& handheld);
     // The instrument's address alone; sends nothing.
     void ShowInstrumentAddress(const QString& instrument);
+    // The handheld's address alone; sends nothing.
+    void ShowHandheldAddress(const QString& handheld);
 
   signals:
     // A box was set or cleared; the key is the setting's. Also sent when options are shown, under
     // the loading guard.
     void FlagChosen(const char* key, bool on);
-    // Typed or chosen from the list, and another one than shown before; not checked yet.
+    // Typed or chosen from the lists, and another one than shown before; not checked yet.
     void InstrumentAddressChosen(const QString& address);
+    void HandheldAddressChosen(const QString& address);
+    void HandheldBrowseWanted();
 
   private:
     // One frame each, from top to bottom.
@@ -56,6 +60,7 @@ class ProgramOptionsPage final : public QWidget {
     QGroupBox* BuildLinksFrame();
     void BuildInstrumentChoice();
     void MakeLive(QCheckBox* box, const char* key);
+    void BuildHandheldChoice();
 
     const Texts& texts_;
     OptionControls controls_;
@@ -71,7 +76,10 @@ class ProgramOptionsPage final : public QWidget {
     QButtonGroup* optDataAccess = nullptr;
     QComboBox* cmbInstrumentAddress = nullptr;
     QComboBox* cmbHandheldAddress = nullptr;
-    QString instrument_;  // as shown last
+    QPushButton* cmdBrowseHandheld = nullptr;
+    // As shown last.
+    QString instrument_;
+    QString handheld_;
 };
 
 }  // namespace brask

@@ -46,6 +46,8 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session, const P
     files_ = std::make_unique<FileCommands>(
         system_, FileCommandParts{document_, commands_, recent_, session_.Directories, choosers},
         *this);
+    handheld_ = std::make_unique<HandheldCommand>(
+        system_, session_, HandheldCommandParts{document_, commands_, choosers}, *this);
     plotCommands_ = std::make_unique<PlotCommands>(
         PlotCommands::Parts{plotting_, session_, document_, commands_, system_.User, system_.Locale,
                             system_.Words},
@@ -84,6 +86,7 @@ void frmBraskLite::BuildPages() {
     connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { SSTab1_Click(tab); });
     connect(SSTab1, &TabControl::DisabledTabClicked, this, [this](int tab) { SSTab1_Click(tab); });
     instrument_->Serve(*programOptions_);
+    handheld_->Serve(*programOptions_);
     connect(graphOptions_, &GraphOptionsPage::GraphTypeChosen, this,
             [this](int index) { optGraph_Click(index); });
     connect(graphOptions_, &GraphOptionsPage::TemperatureUnitChosen, this,
@@ -122,7 +125,7 @@ void frmBraskLite::FormLoad() {
     graphOptions_->ShowColors(colors);
     helpFile_ = HelpFilePath(programDirectory, system_.Disk.Separator());
     SSTab1->setCurrentIndex(kGraphTab);
-    CheckSyncSoftware();
+    handheld_->WarnOfMissingSoftware();
     Toolbar1->SyncToolbarButton("PocketPC");
     ShowRecentFiles();
     // only now: before, a change would meet controls that are not made yet
@@ -158,11 +161,6 @@ void frmBraskLite::ShowDirectories(const ProgramOptions& options) {
     shown.UserDirectory = ToQt(system_.Disk.Folder(KnownFolder::kUserDocuments));
     shown.UserName = ToQt(system_.Information.UserName());
     programOptions_->ShowOptions(options, shown);
-}
-
-// Once the software is found its absence need not be warned of any more, should it come back.
-void frmBraskLite::CheckSyncSoftware() {
-    if (SyncSoftwareInstalled(system_.Disk)) session_.Options.Save("NeverWarn", "NO");
 }
 
 void frmBraskLite::ShowCaption(const std::string& caption) { setWindowTitle(ToQt(caption)); }

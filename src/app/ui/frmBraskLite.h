@@ -11,6 +11,7 @@
 #include "app/ui/GraphOptionsPage.h"
 #include "app/ui/GraphPage.h"
 #include "app/ui/InstrumentCommand.h"
+#include "app/ui/HandheldCommand.h"
 #include "app/ui/MenuBar.h"
 #include "app/ui/PlotCommands.h"
 #include "app/ui/ProgramOptionsPage.h"
@@ -53,6 +54,8 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     InstrumentCommand& Instrument() { return *instrument_; }
     // Downloads as the menu item does.
     void Download() { commands_.Run("mnuReadDataFromTalvexK42"); }
+    // For the command line, before FormLoad, whose notice depends on the handheld; and for tests.
+    HandheldCommand& Handheld() { return *handheld_; }
     // Whether the stored options ask for a maximized window.
     // Known after FormLoad.
     bool OpensMaximized() const { return opensMaximized_; }
@@ -77,8 +80,6 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     // Steps of the start-up.
     void LoadOptions();  // stored options into controls, under the loading guard
     void ShowDirectories(const ProgramOptions& options);
-    // Looks for the handheld's synchronization program.
-    void CheckSyncSoftware();
 
     // The document's calls. An empty chart means that the readings are about to go.
     void ShowCaption(const std::string& caption) override;
@@ -120,6 +121,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
 
     std::unique_ptr<MenuBar> menus_;
     std::unique_ptr<FileCommands> files_;
+    std::unique_ptr<HandheldCommand> handheld_;
     std::unique_ptr<PlotCommands> plotCommands_;
     std::unique_ptr<InstrumentCommand> instrument_;
     // Children of the window, which deletes them.

@@ -29,6 +29,7 @@ struct WindowArguments {
     std::optional<LongDateOrder> DateOrder;
     std::optional<InstrumentAddress> Instrument;
     bool Download = false;
+    std::optional<HandheldAddress> Handheld;
 };
 
 std::optional<LongDateOrder> DateOrderNamed(const QString& name) {
@@ -58,7 +59,10 @@ Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& te
                                         QStringLiteral("ADDRESS"));
     const QCommandLineOption download(QStringLiteral("download"),
                                       ToQt(texts, app_texts::kUsageDownload));
-    parser.addOptions({settings, root, order, instrument, download});
+    const QCommandLineOption handheld(QStringLiteral("handheld"),
+                                      ToQt(texts, app_texts::kUsageHandheld),
+                                      QStringLiteral("ADDRESS"));
+    parser.addOptions({settings, root, order, instrument, download, handheld});
     if (!parser.parse(words)) return Error{0, FromQt(parser.errorText())};
     // only after unknown words were refused
     if (parser.isSet(help)) parser.showHelp();
@@ -69,6 +73,11 @@ Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& te
     if (parser.isSet(instrument) && !link) {
         return Error{0, texts.Find(app_texts::kUsageBadInstrument)};
     }
+    std::optional<HandheldAddress> folder;
+    if (parser.isSet(handheld)) {
+        folder = ParseHandheldAddress(FromQt(parser.value(handheld)));
+        if (!folder) return Error{0, texts.Find(app_texts::kUsageBadHandheld)};
+    }
     if (parser.positionalArguments().size() > 1)
         return Error{0, texts.Find(app_texts::kUsageOneFile)};
     return WindowArguments{parser.positionalArguments().value(0),
@@ -76,7 +85,8 @@ Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& te
                            parser.value(root),
                            named,
                            link,
-                           parser.isSet(download)};
+                           parser.isSet(download),
+                           folder};
 }
 
 // Before there is an application for the windows: --help needs no display.
@@ -106,7 +116,8 @@ int RunWindow(int argc, char** argv) {
     // Each object is given what stands above it, so they go in the opposite order, the window
     // first.
     DiagnosticLog log(native.Disk(), native.Time());
-    StoredSettings stored({native.Disk(), native.Locale(), texts, log}, FromQt(line.Settings),
+    StoredSettings stored({native.Disk(), native.Stores(), native.Locale(), texts, log},
+                          FromQt(line.Settings),
                           [&user](const std::string& text) { user.ShowNotice(text); });
     DataSet data;
     TemperatureUnit unit(stored.Options().Number("DisplayTemperatureUnits") != 0);
@@ -134,6 +145,7 @@ int RunWindow(int argc, char** argv) {
     if (line.Instrument) window.Instrument().Override(*line.Instrument);
     // before FormLoad, whose messages belong to the window
     user.SetViews(&window, &window.Progress(), &window.Notices());
+    if (line.Handheld) window.Handheld().Override(*line.Handheld);
     window.FormLoad();
     // a start-up message was answered with leaving; without an event loop yet, quitting has no
     // effect of its own

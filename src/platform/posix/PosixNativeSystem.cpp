@@ -17,6 +17,7 @@ struct NativeSystem::Parts {
     PosixFiles Disk;
     PosixPrograms OtherPrograms;
     PosixTcp Network;
+    NoUserStores Stores;
     PosixClock Time;
     PosixUserLocale Locale;
     PosixSystemInformation Information;
@@ -28,6 +29,7 @@ NativeSystem::~NativeSystem() = default;
 Files& NativeSystem::Disk() { return parts_->Disk; }
 Programs& NativeSystem::OtherPrograms() { return parts_->OtherPrograms; }
 Tcp& NativeSystem::Network() { return parts_->Network; }
+UserStores& NativeSystem::Stores() { return parts_->Stores; }
 const Clock& NativeSystem::Time() const { return parts_->Time; }
 const UserLocale& NativeSystem::Locale() const { return parts_->Locale; }
 const SystemInformation& NativeSystem::Information() const { return parts_->Information; }

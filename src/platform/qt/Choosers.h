@@ -27,6 +27,8 @@ class Choosers {
     // taken). Nothing when the user cancelled.
     virtual std::optional<QString> FileToOpen(QWidget* parent, const FileQuestion& question) = 0;
     virtual std::optional<QString> FileToSave(QWidget* parent, const FileQuestion& question) = 0;
+    // The path of an existing folder; only title and start of the question count.
+    virtual std::optional<QString> Folder(QWidget* parent, const FileQuestion& question) = 0;
 };
 
 }  // namespace brask

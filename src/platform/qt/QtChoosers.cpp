@@ -52,4 +52,11 @@ std::optional<QString> QtChoosers::FileToSave(QWidget* parent, const FileQuestio
     return Ask(dialog);
 }
 
+std::optional<QString> QtChoosers::Folder(QWidget* parent, const FileQuestion& question) {
+    QFileDialog dialog(parent, question.Title, question.Start);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return Ask(dialog);
+}
+
 }  // namespace brask

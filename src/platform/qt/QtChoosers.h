@@ -10,6 +10,7 @@ class QtChoosers final : public Choosers {
   public:
     std::optional<QString> FileToOpen(QWidget* parent, const FileQuestion& question) override;
     std::optional<QString> FileToSave(QWidget* parent, const FileQuestion& question) override;
+    std::optional<QString> Folder(QWidget* parent, const FileQuestion& question) override;
 };
 
 // "All Files|*.*|CSV Files|*.csv" in Qt's form, extensions in any letter case.

@@ -23,6 +23,9 @@ class ScriptedChoosers final : public Choosers {
     std::optional<QString> FileToSave(QWidget*, const FileQuestion& question) override {
         return Answer(question);
     }
+    std::optional<QString> Folder(QWidget*, const FileQuestion& question) override {
+        return Answer(question);
+    }
 
   private:
     std::optional<QString> Answer(const FileQuestion& question) {

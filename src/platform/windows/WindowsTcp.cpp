@@ -9,18 +9,12 @@
 #include <deque>
 #include <utility>
 
+#include "platform/windows/WindowsHandle.h"
+
 namespace brask {
 namespace {
 
-Error ErrorOf(int number) {
-    char buffer[256] = "";
-    const DWORD length =
-        ::FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                         static_cast<DWORD>(number), 0, buffer, sizeof buffer, nullptr);
-    std::string text(buffer, length);
-    text.erase(text.find_last_not_of("\r\n .") + 1);
-    return {number, text};
-}
+Error ErrorOf(int number) { return windows::ErrorOf(static_cast<DWORD>(number)); }
 
 Error LastError() { return ErrorOf(::WSAGetLastError()); }
 

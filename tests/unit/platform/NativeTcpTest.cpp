@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cerrno>
-
-#include "platform/posix/PosixTcp.h"
+#include "platform/NativeSystem.h"
 
 namespace brask {
 namespace {
@@ -20,9 +18,9 @@ struct Pair {
 };
 
 // A listener on a free loopback port and one connection to it.
-class PosixTcpTest : public testing::Test {
+class NativeTcp : public testing::Test {
   protected:
-    PosixTcpTest() : listener_(std::move(tcp_.Listen({"127.0.0.1", 0}).Value())) {}
+    NativeTcp() : listener_(std::move(tcp_.Listen({"127.0.0.1", 0}).Value())) {}
 
     Pair Connect(const std::string& host = "127.0.0.1") {
         Pair pair{std::move(tcp_.Connect({host, listener_->Port()}).Value()), nullptr};
@@ -32,7 +30,8 @@ class PosixTcpTest : public testing::Test {
         return pair;
     }
 
-    PosixTcp tcp_;
+    NativeSystem system_;
+    Tcp& tcp_ = system_.Network();
     std::unique_ptr<TcpListener> listener_;
 };
 
@@ -49,7 +48,7 @@ TEST(TcpAddresses, AreReadAndWrittenAlike) {
     }
 }
 
-TEST_F(PosixTcpTest, BytesArriveWholeAndInOrderThroughABufferThatFills) {
+TEST_F(NativeTcp, BytesArriveWholeAndInOrderThroughABufferThatFills) {
     Pair pair = Connect();
     std::string sent;
     while (pair.Near->Writable() && sent.size() < 100'000'000) {
@@ -70,7 +69,7 @@ TEST_F(PosixTcpTest, BytesArriveWholeAndInOrderThroughABufferThatFills) {
     EXPECT_TRUE(pair.Near->Writable());
 }
 
-TEST_F(PosixTcpTest, ClosingIsSeenAfterTheLastByteAndSendingThenFailsWithoutASignal) {
+TEST_F(NativeTcp, ClosingIsSeenAfterTheLastByteAndSendingThenFailsWithoutASignal) {
     Pair pair = Connect("localhost");
     EXPECT_EQ(pair.Far->Receive(10, 0).Value().Closed, false);
     ASSERT_EQ(pair.Near->Send("bye", kLongestTcpWait).Value(), 3U);
@@ -89,12 +88,12 @@ TEST_F(PosixTcpTest, ClosingIsSeenAfterTheLastByteAndSendingThenFailsWithoutASig
         const auto sent = pair.Far->Send("x", kLongestTcpWait);
         return sent.Ok() ? 0 : sent.Why().Number;
     });
-    EXPECT_TRUE(error == EPIPE || error == ECONNRESET) << error;
+    EXPECT_NE(error, 0);
 }
 
-TEST_F(PosixTcpTest, WhatCannotWorkSaysWhy) {
+TEST_F(NativeTcp, WhatCannotWorkSaysWhy) {
     const std::uint16_t port = listener_->Port();
-    EXPECT_EQ(tcp_.Listen({"127.0.0.1", port}).Why().Number, EADDRINUSE);
+    EXPECT_FALSE(tcp_.Listen({"127.0.0.1", port}).Why().Reason.empty());
     EXPECT_FALSE(tcp_.Connect({"no such host", 1}).Ok());
     EXPECT_EQ(listener_->Accept(0).Value(), nullptr);
     listener_.reset();
@@ -103,8 +102,8 @@ TEST_F(PosixTcpTest, WhatCannotWorkSaysWhy) {
         const auto connected = stream->Connected(kLongestTcpWait);
         return connected.Ok() ? 0 : connected.Why().Number;
     });
-    EXPECT_EQ(error, ECONNREFUSED);
-    EXPECT_EQ(stream->Connected(0).Why().Number, ECONNREFUSED);
+    EXPECT_GT(error, 0);
+    EXPECT_EQ(stream->Connected(0).Why().Number, error);
 }
 
 }  // namespace

@@ -1,0 +1,101 @@
+// The folder that stands for a handheld, on a real file system.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "platform/FolderHandheld.h"
+#include "platform/HandheldAddress.h"
+#include "platform/NativeSystem.h"
+
+namespace brask {
+namespace {
+
+using testing::ElementsAre;
+namespace fs = std::filesystem;
+
+class FolderHandheldTest : public testing::Test {
+  protected:
+    FolderHandheldTest() { fs::create_directories(root_ / "talvexPDA" / "Collections"); }
+    ~FolderHandheldTest() override { fs::remove_all(root_); }
+
+    void Write(const std::string& path) const { std::ofstream(root_ / path) << path; }
+    std::vector<std::string> Found(const std::string& pattern) {
+        std::vector<std::string> names;
+        for (auto name = Handheld.FindFirst(pattern); name.Ok(); name = Handheld.FindNext()) {
+            names.push_back(name.Value());
+        }
+        return names;
+    }
+
+    fs::path root_ = [] {
+        std::string name = testing::TempDir() + "handheldXXXXXX";
+        return fs::path(::mkdtemp(name.data()));
+    }();
+    NativeSystem System;
+    FolderHandheld Handheld{System.Disk(), root_.string()};
+};
+
+TEST_F(FolderHandheldTest, LetterCaseDoesNotMatter) {
+    const std::string folder = "talvexPDA/Collections/";
+    for (const char* name : {"b.CSV", "A.csv", "c.Csv", "a.col", "x.csv.bak", "odd\\name.csv"}) {
+        Write(folder + name);
+    }
+    fs::create_directory(root_ / folder / "folder.csv");
+    EXPECT_TRUE(Handheld.Connected());
+    EXPECT_THAT(Found("\\TalvexPDA\\collections\\*.csv"), ElementsAre("A.csv", "b.CSV", "c.Csv"));
+    EXPECT_THAT(Found("\\TalvexPPC\\collections\\*.csv"), ElementsAre());
+    auto file = Handheld.Open("\\TalvexPDA\\collections\\A.COL");
+    ASSERT_TRUE(file.Ok());
+    char bytes[100];
+    const std::size_t length = file.Value()->Read(bytes).Value();
+    EXPECT_EQ(std::string(bytes, length), folder + "a.col");
+    EXPECT_EQ(file.Value()->Size().Value(), length);
+    EXPECT_TRUE(Handheld.Delete("\\TalvexPDA\\collections\\B.csv").Ok());
+    EXPECT_FALSE(fs::exists(root_ / folder / "b.CSV"));
+    // of two that differ in letter case alone, the exact one
+    Write(folder + "a.CSV");
+    EXPECT_TRUE(Handheld.Delete("\\TALVEXPDA\\collections\\a.CSV").Ok());
+    EXPECT_TRUE(fs::exists(root_ / folder / "A.csv"));
+}
+
+TEST_F(FolderHandheldTest, MovesNeverReplaceAndNothingLeavesTheFolder) {
+    Write("one");
+    Write("two");
+    EXPECT_TRUE(Handheld.MakeFolder("\\VEK kept").Ok());
+    EXPECT_TRUE(NameTaken(Handheld.MakeFolder("\\vek KEPT").Why()));
+    EXPECT_TRUE(Handheld.Move("\\one", "\\VEK kept\\x").Ok());
+    EXPECT_TRUE(NameTaken(Handheld.Move("\\two", "\\VEK kept\\X").Why()));
+    EXPECT_TRUE(NothingThere(Handheld.Move("\\three", "\\VEK kept\\y").Why()));
+    EXPECT_TRUE(NothingThere(Handheld.Delete("\\none\\file").Why()));
+    for (const char* path : {"\\..\\two", "\\.\\two", "\\a/b"}) {
+        EXPECT_FALSE(Handheld.Open(path).Ok());
+        EXPECT_FALSE(Handheld.Delete(path).Ok());
+        EXPECT_FALSE(Handheld.Move("\\two", path).Ok());
+    }
+    EXPECT_TRUE(fs::exists(root_ / "two"));
+    EXPECT_FALSE(FolderHandheld(System.Disk(), "").Connected());
+    EXPECT_FALSE(FolderHandheld(System.Disk(), (root_ / "two").string()).Connected());
+}
+
+TEST(HandheldAddress, FormsOfAnAddress) {
+    // the text, whether it is one, the folder
+    const std::tuple<std::string, bool, std::string> cases[] = {
+        {"dir:/media/card", true, "/media/card"},
+        {"dir: x", true, " x"},
+        {"rapi", true, ""},
+        {"dir:", false, ""},
+        {"RAPI", false, ""},
+        {"/media/card", false, ""}};
+    for (const auto& [text, good, folder] : cases) {
+        const auto address = ParseHandheldAddress(text);
+        ASSERT_EQ(address.has_value(), good) << text;
+        if (!good) continue;
+        EXPECT_EQ(address->Folder, folder);
+        EXPECT_EQ(address->Remote, text == "rapi");
+    }
+}
+
+}  // namespace
+}  // namespace brask
