@@ -1,7 +1,7 @@
 # Thin: every target is one command that can be typed by hand.
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
-.PHONY: setup build run check test bench fuzz format tidy clean install
+.PHONY: setup build run check test windows-test bench fuzz format tidy clean install
 
 setup:
 	scripts/setup
@@ -19,6 +19,10 @@ check: build
 
 test: setup
 	scripts/test
+
+windows-test:
+	scripts/setup --windows
+	scripts/windows-test
 
 bench: build
 	scripts/bench

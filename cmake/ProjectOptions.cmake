@@ -16,8 +16,13 @@ check_pie_supported()
 
 set(hardened "$<AND:$<CONFIG:Release>,$<NOT:$<BOOL:${BRASK_SANITIZE}>>>")
 target_compile_options(brask_options INTERFACE
-  "$<${hardened}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong;-fstack-clash-protection>")
-if(NOT WIN32)
+  "$<${hardened}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
+if(WIN32)
+  # the checks that the options above compile in are in a library there
+  target_link_options(brask_options INTERFACE "$<${hardened}:-fstack-protector-strong>")
+else()
+  # g++ 12 for Windows breaks off at -fstack-clash-protection; the others are of the ELF linker
+  target_compile_options(brask_options INTERFACE "$<${hardened}:-fstack-clash-protection>")
   target_link_options(brask_options INTERFACE "$<${hardened}:-Wl,-z,relro,-z,now>")
 endif()
 

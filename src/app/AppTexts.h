@@ -21,6 +21,9 @@ inline constexpr auto kOpenTitle = TextRow("app", "Select Talvex© K42 Data File
 inline constexpr auto kOpenFilter = TextRow("app", "All Files|*.*|CSV Files|*.csv");
 inline constexpr auto kSaveTitle = TextRow("app", "Save Data as");
 inline constexpr auto kSaveFilter = TextRow("app", "CSV File|*.csv|All Files|*.*");
+// A message, or a notice in the status bar; %1 is what was typed or stored.
+inline constexpr auto kBadInstrument =
+    TextRow("app", "%1 is no address of an instrument: say \"irda\" or \"tcp:HOST:PORT\"");
 inline constexpr auto kHandheldFolder =
     TextRow("app", "Select The Folder Of The Handheld Or Its Card");
 // A notice in the status bar; %1 is what was typed.
@@ -62,7 +65,7 @@ inline constexpr auto kDoNotMarkPoints = TextRow("app", "Do Not Mark Individual 
 inline constexpr auto kMarkPoints = TextRow("app", "Mark Individual Data Points");
 // The row below the plot.
 inline constexpr auto kFindLabel = TextRow("app", "Date and &Time:");
-inline constexpr auto kFindPoint = TextRow("app", "Find P&oint");
+inline constexpr auto kFindPoint = TextRow("app", "Fi&nd Point");
 
 // Headings of the grid; %1 is the unit, °C or °F.
 inline constexpr auto kColumnResult = TextRow("app", "Result");
@@ -96,6 +99,11 @@ inline constexpr auto kUsageSettings =
     TextRow("app", "keep settings in this INI file instead of the user's own store");
 inline constexpr auto kUsageRoot = TextRow("app", "base directory of the data directories");
 inline constexpr auto kUsageOrder = TextRow("app", "override the date order: mdy, dmy or ymd");
+inline constexpr auto kUsageInstrument =
+    TextRow("app", "link to the instrument: irda or tcp:HOST:PORT");
+inline constexpr auto kUsageDownload = TextRow("app", "download from the instrument at once");
+inline constexpr auto kUsageBadInstrument =
+    TextRow("app", "--instrument takes irda or tcp:HOST:PORT");
 inline constexpr auto kUsageHandheld = TextRow("app", "link to the handheld: rapi or dir:PATH");
 inline constexpr auto kUsageBadHandheld = TextRow("app", "--handheld takes rapi or dir:PATH");
 inline constexpr auto kUsageBadOrder = TextRow("app", "--date-order takes mdy, dmy or ymd");

@@ -33,7 +33,7 @@ void Document::Open(const std::string& path, DataSource source) {
     // absolute, since the list of recent files outlives the directory that the program runs in
     session_.Data.CurrentDataFile = system_.Disk.Absolute(path);
     // the curves look into the arrays that the load re-creates while events run
-    plotting_.Plot.Clear();
+    plotting_.Builder.Clear();
     plotting_.Selection.Forget();
     plotting_.Navigation.Forget();
     view_->ShowChart();
@@ -112,9 +112,7 @@ void Document::ToggleDataPoints() {
     if (session_.Data.ReadingCount == 0 || commands_.Busy()) return;
     const ViewRecord view = plotting_.Plot.View();
     BuildPlot();
-    plotting_.Plot.X.SetRange(view.X.Minimum, view.X.Maximum);
-    plotting_.Plot.Y.SetRange(view.Y.Minimum, view.Y.Maximum);
-    plotting_.Plot.Y1.SetRange(view.Y1.Minimum, view.Y1.Maximum);
+    plotting_.Plot.SetView(view);
     view_->ShowChart();
     plotting_.Navigation.AfterRebuild();
 }

@@ -5,18 +5,19 @@
 
 namespace brask::option_texts {
 
+// Letters must differ from those of menus and tabs; those of a group are led to by its first.
 // Left column of the graph options. Each group begins with the title of its frame.
 inline constexpr auto kGraphType = TextRow("options", "Graph Type");
-inline constexpr auto kContinuousGraph = TextRow("options", "Continuous Graph");
-inline constexpr auto kOverlapDays = TextRow("options", "Overlap Days");
-inline constexpr auto kOverlapWeeks = TextRow("options", "Overlap Weeks");
+inline constexpr auto kContinuousGraph = TextRow("options", "Co&ntinuous Graph");
+inline constexpr auto kOverlapDays = TextRow("options", "Overlap Da&ys");
+inline constexpr auto kOverlapWeeks = TextRow("options", "Overlap &Weeks");
 
 // The options are read together with their boxes: "Display Dates from ... to ...".
 inline constexpr auto kDisplayPeriod = TextRow("options", "Display Period");
-inline constexpr auto kDisplayAllData = TextRow("options", "Display All Data");
-inline constexpr auto kDisplayDates = TextRow("options", "Display Dates from");
-inline constexpr auto kDisplayTimes = TextRow("options", "Display Times from");
-inline constexpr auto kDisplayDays = TextRow("options", "Display Days from");
+inline constexpr auto kDisplayAllData = TextRow("options", "Display &All Data");
+inline constexpr auto kDisplayDates = TextRow("options", "Display Da&tes from");
+inline constexpr auto kDisplayTimes = TextRow("options", "Display T&imes from");
+inline constexpr auto kDisplayDays = TextRow("options", "Display Days f&rom");
 // Stands between the two boxes of a period.
 inline constexpr auto kTo = TextRow("options", "to");
 // Names of the boxes for those who hear them, in the order of the rows.
@@ -28,7 +29,7 @@ inline constexpr auto kFirstDay = TextRow("options", "First day to display");
 inline constexpr auto kLastDay = TextRow("options", "Last day to display");
 // %1 is the visible range.
 inline constexpr auto kShownNow = TextRow("options", "Shown now: %1");
-inline constexpr auto kSetDisplayPeriod = TextRow("options", "Set Display Period");
+inline constexpr auto kSetDisplayPeriod = TextRow("options", "&Set Display Period");
 
 // Its two options are the locale's own words for Sunday and Monday.
 inline constexpr auto kWeekStartsOn = TextRow("options", "Week Starts On");
@@ -41,13 +42,13 @@ inline constexpr auto kCelsius = TextRow("options", "Celsius (°C)");
 // Middle column. The order of the cursors is that of the stored numbers.
 inline constexpr auto kCursor = TextRow("options", "Selected Point Cursor");
 // A doubled "&" is shown as one.
-inline constexpr auto kCursorLines = TextRow("options", "Horizontal && Vertical Lines");
-inline constexpr auto kCursorSquare = TextRow("options", "Square");
+inline constexpr auto kCursorLines = TextRow("options", "Horizontal && Vertical &Lines");
+inline constexpr auto kCursorSquare = TextRow("options", "S&quare");
 inline constexpr auto kCursorVertical = TextRow("options", "Vertical Line");
 inline constexpr auto kCursorHorizontal = TextRow("options", "Horizontal Line");
 inline constexpr auto kCursorCircle = TextRow("options", "Circle");
 inline constexpr auto kCursorDiamond = TextRow("options", "Diamond");
-inline constexpr auto kCursorBox = TextRow("options", "Filled Box");
+inline constexpr auto kCursorBox = TextRow("options", "Filled &Box");
 
 // Upper limits are gas limits, in ppm.
 inline constexpr auto kUpperLimits = TextRow("options", "Upper Limits");
@@ -56,8 +57,8 @@ inline constexpr auto kMarkWide = TextRow("options", "Mark Out of Limit Points w
 inline constexpr auto kSetUpperLimit = TextRow("options", "SetUpperLimit");
 
 inline constexpr auto kDrawing = TextRow("options", "Drawing and Printing");
-inline constexpr auto kMarkPoints = TextRow("options", "Mark Data Points on Graph");
-inline constexpr auto kScaleOnZoom = TextRow("options", "Scale Y Axis when zooming");
+inline constexpr auto kMarkPoints = TextRow("options", "Mar&k Data Points on Graph");
+inline constexpr auto kScaleOnZoom = TextRow("options", "Scale Y A&xis when zooming");
 inline constexpr auto kScalePrint =
     TextRow("options", "Scale Graph To Fit Paper Size When Printed");
 
@@ -102,6 +103,7 @@ inline constexpr auto kAllUsers = TextRow("options", "All Users (%1)");
 inline constexpr auto kOneUser = TextRow("options", "User %1 (%2)");
 // The first is the title of the frame and the label of its first box.
 inline constexpr auto kInstrumentLink = TextRow("options", "Instrument Link");
+inline constexpr auto kInstrumentHint = TextRow("options", "irda, or tcp:HOST:PORT");
 inline constexpr auto kHandheld = TextRow("options", "Handheld");
 // Stands in the box while it is empty.
 inline constexpr auto kHandheldHint =

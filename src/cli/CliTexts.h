@@ -16,9 +16,8 @@ inline constexpr auto kOptionTakesNoValue = TextRow("cli", "option %1 takes no v
 inline constexpr auto kNotAChoice = TextRow("cli", "option %1: %2 is none of %3");
 inline constexpr auto kNotACount = TextRow("cli", "option %1: %2 is no whole number from 0 on");
 inline constexpr auto kEmptyValue = TextRow("cli", "option %1: the value is empty");
-inline constexpr auto kTooFewArguments = TextRow("cli", "an argument is missing: brask %1 %2");
-inline constexpr auto kTooManyArguments =
-    TextRow("cli", "%1 is one argument too many: brask %2 %3");
+inline constexpr auto kTooFewArguments = TextRow("cli", "an argument is missing: %1");
+inline constexpr auto kTooManyArguments = TextRow("cli", "%1 is one argument too many: %2");
 inline constexpr auto kOptionMissing = TextRow("cli", "option %1 is missing: brask %2 %3");
 inline constexpr auto kBadSettingsUse =
     TextRow("cli", "say \"settings list\", \"settings get KEY\" or \"settings set KEY VALUE\"");
@@ -37,11 +36,18 @@ inline constexpr auto kTimeOfDayWanted = TextRow("cli", "time of day (h:mm)");
 inline constexpr auto kPeriodNotInOrder = TextRow("cli", "--from must lie before --to");
 inline constexpr auto kNoPeriodInWeeks =
     TextRow("cli", "--from and --to choose dates or times of day; the weeks layout has neither");
+inline constexpr auto kClearOrNot = TextRow("cli", "--clear and --no-clear exclude each other");
+// %1 is where it was said.
+inline constexpr auto kNotALink =
+    TextRow("cli", "%1: %2 names no link; say \"irda\" or \"tcp:HOST:PORT\"");
 
 // refusals and failures, shown as messages
 inline constexpr auto kNoSuchReading =
     TextRow("cli", "There is no reading %1: %2 holds %3, counted from 0");
 inline constexpr auto kCannotExpand = TextRow("cli", "Cannot expand %1 to %2: %3");
+inline constexpr auto kNoConnection =
+    TextRow("cli", "No connection to the instrument (%1) within %2 seconds");
+inline constexpr auto kNotAccepted = TextRow("cli", "Not accepted; the log %1 says why");
 inline constexpr auto kUnknownSetting = TextRow("cli", "There is no setting %1");
 inline constexpr auto kBadStoredHandheld =
     TextRow("cli", "The stored address of the handheld, %1, is neither rapi nor dir:PATH");
@@ -52,6 +58,9 @@ inline constexpr auto kNoMemory = TextRow("cli", "brask: not enough memory");
 // results
 inline constexpr auto kVersionLine = TextRow("cli", "brask %1");
 inline constexpr auto kLinesWritten = TextRow("cli", "%1: %2 lines");
+inline constexpr auto kDownloaded = TextRow("cli", "%1: %2 bytes received");
+inline constexpr auto kDownloadedAndCleared =
+    TextRow("cli", "%1: %2 bytes received, instrument cleared");
 // %1 is a name; %2 and %3 are one of the next two.
 inline constexpr auto kRetrieved =
     TextRow("cli", "%1: downloaded: %2, deleted on the handheld: %3");

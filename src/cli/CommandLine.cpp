@@ -78,7 +78,12 @@ class CommandLineReader {
   public:
     CommandLineReader(std::span<const CommandRow> commands, std::span<const std::string> words,
                       const Texts& texts)
-        : commands_(commands), words_(words), texts_(texts) {}
+        : commands_(commands), common_(kCommon), words_(words), texts_(texts) {}
+    CommandLineReader(const CommandRow& program, std::span<const std::string> words,
+                      const Texts& texts)
+        : words_(words), texts_(texts) {
+        line_.command_ = &program;
+    }
 
     Result<CommandLine> Read() {
         bool optionsEnded = false;
@@ -122,7 +127,7 @@ class CommandLineReader {
     const OptionRow* RowOf(std::string_view name) const {
         // Only common options may stand in front of the command: which others it has is not known
         // before.
-        if (const OptionRow* row = FindOption(kCommon, name)) return row;
+        if (const OptionRow* row = FindOption(common_, name)) return row;
         return line_.command_ == nullptr ? nullptr : FindOption(line_.command_->Options, name);
     }
 
@@ -173,21 +178,27 @@ class CommandLineReader {
         return {};
     }
 
+    std::string UseOf(const CommandRow& command) const {
+        const bool whole = commands_.empty();
+        return (whole ? "" : "brask ") + std::string(command.Name) + " " + command.Arguments;
+    }
+
     Status CheckArguments() const {
         const CommandRow* command = line_.command_;
         if (command == nullptr) return Wrong(kNoCommand, {});
         const auto& arguments = line_.arguments_;
         if (arguments.size() < command->LeastArguments) {
-            return Wrong(kTooFewArguments, {command->Name, command->Arguments});
+            return Wrong(kTooFewArguments, {UseOf(*command)});
         }
         if (arguments.size() > command->MostArguments) {
             const std::string tooMany = Quoted(arguments[command->MostArguments]);
-            return Wrong(kTooManyArguments, {tooMany, command->Name, command->Arguments});
+            return Wrong(kTooManyArguments, {tooMany, UseOf(*command)});
         }
         return {};
     }
 
     std::span<const CommandRow> commands_;
+    std::span<const OptionRow> common_;
     std::span<const std::string> words_;
     const Texts& texts_;
     std::size_t next_ = 0;
@@ -197,6 +208,12 @@ class CommandLineReader {
 Result<CommandLine> CommandLine::Parse(std::span<const CommandRow> commands,
                                        std::span<const std::string> words, const Texts& texts) {
     return CommandLineReader(commands, words, texts).Read();
+}
+
+Result<CommandLine> CommandLine::ParseProgram(const CommandRow& program,
+                                              std::span<const std::string> words,
+                                              const Texts& texts) {
+    return CommandLineReader(program, words, texts).Read();
 }
 
 std::optional<std::string> CommandLine::Value(std::string_view name) const {

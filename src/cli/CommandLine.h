@@ -64,6 +64,11 @@ class CommandLine {
     static Result<CommandLine> Parse(std::span<const CommandRow> commands,
                                      std::span<const std::string> words, const Texts& texts);
 
+    // The same for a program that is one command: its options are those of the row alone, "help"
+    // and "version" among them, which make it succeed like above.
+    static Result<CommandLine> ParseProgram(const CommandRow& program,
+                                            std::span<const std::string> words, const Texts& texts);
+
     // Null when there is none. Never null in a command's own Run.
     const CommandRow* Command() const { return command_; }
     // As typed, without the command's name.

@@ -5,14 +5,15 @@ namespace brask {
 CommandSession::CommandSession(Shell& shell, const CommandLine& line)
     : disk_(shell.System.Disk()),
       log_(shell.System.Disk(), shell.System.Time()),
-      settings_({shell.System.Disk(), shell.System.Locale(), shell.Words, log_},
-                line.Value("settings").value_or(""),
-                // A setting that could not be stored is a line in the status bar of a window; a
-                // script has to see it as a message and in the exit status.
-                [this, &shell](const std::string& text) {
-                    allSaved_ = false;
-                    ShowFailure(shell, text);
-                }),
+      settings_(
+          {shell.System.Disk(), shell.System.Stores(), shell.System.Locale(), shell.Words, log_},
+          line.Value("settings").value_or(""),
+          // A setting that could not be stored is a line in the status bar of a window; a
+          // script has to see it as a message and in the exit status.
+          [this, &shell](const std::string& text) {
+              allSaved_ = false;
+              ShowFailure(shell, text);
+          }),
       // after settings_, which it asks: members are made in the order of the header
       unit_(line.Fahrenheit().value_or(Options().Number("DisplayTemperatureUnits") != 0)),
       // data files follow the order of the country that their reader lives in

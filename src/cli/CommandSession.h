@@ -35,6 +35,7 @@ class CommandSession {
     // The option's order, else the locale's.
     LongDateOrder DateOrder() const { return dateOrder_; }
     Settings& Options() { return settings_.Options(); }
+    DiagnosticLog& Log() { return log_; }
     // Whether every setting could be stored so far.
     bool AllSettingsSaved() const { return allSaved_; }
 

@@ -22,16 +22,6 @@ std::string OptionUse(const OptionRow& row) {
     return row.Kind == OptionKind::kSwitch ? option : option + " " + row.Value;
 }
 
-std::string OptionLines(std::span<const OptionRow> rows, const Texts& texts) {
-    // wide enough for all but the longest, which pushes its own line aside
-    constexpr std::size_t kWidth = 26;
-    std::string lines;
-    for (const OptionRow& row : rows) {
-        lines += "  " + Padded(OptionUse(row), kWidth) + texts.Find(row.Meaning) + "\n";
-    }
-    return lines;
-}
-
 std::string AllCommands(const Shell& shell) {
     constexpr std::size_t kWidth = 10;
     std::string help = shell.Words.Find(kHelpHead);
@@ -63,6 +53,16 @@ void Print(Shell& shell, const CommandLine& line, std::string_view key, const st
 }
 
 }  // namespace
+
+std::string OptionLines(std::span<const OptionRow> rows, const Texts& texts) {
+    // wide enough for all but the longest, which pushes its own line aside
+    constexpr std::size_t kWidth = 26;
+    std::string lines;
+    for (const OptionRow& row : rows) {
+        lines += "  " + Padded(OptionUse(row), kWidth) + texts.Find(row.Meaning) + "\n";
+    }
+    return lines;
+}
 
 ExitStatus RunHelp(Shell& shell, const CommandLine& line) {
     // "brask list --help" speaks of list; in "brask help list" the command is help itself.

@@ -12,7 +12,7 @@ std::string DrawingProgram(NativeSystem& system) {
     const std::string directory = system.Information().ProgramDirectory();
     // Beside this program in a build, in libexec when installed, since nobody starts it by hand.
     for (const char* place : {"/", "/../libexec/brasklite/"}) {
-        std::string path = directory + place + kDrawingProgram;
+        std::string path = directory + place + system.OtherPrograms().FileName(kDrawingProgram);
         if (system.Disk().Exists(path)) return path;
     }
     return kDrawingProgram;

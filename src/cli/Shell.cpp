@@ -39,8 +39,9 @@ ExitStatus RunWithinMemory(Shell& shell, const CommandLine& line) {
     }
 }
 
-ExitStatus RunWords(std::span<const CommandRow> commands, std::span<const std::string> words) {
+ExitStatus RunWords(std::span<const CommandRow> commands, std::span<char* const> arguments) {
     NativeSystem system;
+    const std::vector<std::string> words = system.OtherPrograms().CommandWords(arguments);
     const EnglishTexts texts;
     const auto line = CommandLine::Parse(commands, words, texts);
     ConsoleOptions options;
@@ -93,9 +94,7 @@ void EndDocument(Shell& shell, JsonWriter& json) {
 
 int RunProgram(std::span<const CommandRow> commands, std::span<char* const> arguments) {
     try {
-        std::vector<std::string> words;
-        for (std::size_t i = 1; i < arguments.size(); ++i) words.emplace_back(arguments[i]);
-        return static_cast<int>(RunWords(commands, words));
+        return static_cast<int>(RunWords(commands, arguments));
     } catch (const std::bad_alloc&) {
         // the row itself, since looking a text up takes memory
         std::fprintf(stderr, "%s\n", cli_texts::kNoMemory.English);

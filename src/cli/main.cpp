@@ -2,6 +2,7 @@
 #include <array>
 
 #include "cli/CurvesCommand.h"
+#include "cli/DownloadCommand.h"
 #include "cli/ExpandCommand.h"
 #include "cli/HelpCommand.h"
 #include "cli/InfoCommand.h"
@@ -11,6 +12,7 @@
 #include "cli/RetrieveCommand.h"
 #include "cli/SettingsCommand.h"
 #include "cli/Shell.h"
+#include "cli/VerifyCommand.h"
 
 namespace {
 
@@ -28,6 +30,15 @@ const auto kCommands = std::to_array<brask::CommandRow>({
      brask::DrawingOptions(), 1, 1, brask::RunPlot},
     {"expand", "RAW -o OUT", TextRow("cli", "expand a received stream into a data file"),
      brask::ExpandOptions(), 1, 1, brask::RunExpand},
+    {"verify",
+     "RAW",
+     TextRow("cli", "file and check a received stream as a download does"),
+     {},
+     1,
+     1,
+     brask::RunVerify},
+    {"download", "", TextRow("cli", "download the readings of the instrument"),
+     brask::DownloadOptionRows(), 0, 0, brask::RunDownload},
     {"retrieve", "", TextRow("cli", "collect the readings of a handheld"), brask::RetrieveOptions(),
      0, 0, brask::RunRetrieve},
     {"settings",

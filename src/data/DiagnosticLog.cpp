@@ -38,6 +38,8 @@ void DiagnosticLog::CutToLastBytes() {
         // so that a log of gigabytes, left by whatever, takes no more memory than its end
         if (kept.size() > kKeptBytes) kept.erase(0, kept.size() - kKeptBytes);
     }
+    // not every system replaces a file that is open
+    opened.Value().reset();
     static_cast<void>(WriteWholeFile(files_, path_, kept).Ok());
 }
 

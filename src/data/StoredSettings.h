@@ -1,7 +1,9 @@
-// The user's settings file opened for one run: the file, its two sections, and the Settings on it.
+// The user's settings opened for one run: the system's own store or a file, its two sections, and
+// the Settings on them.
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "data/DiagnosticLog.h"
@@ -10,6 +12,7 @@
 #include "platform/IniSettingsStore.h"
 #include "platform/Texts.h"
 #include "platform/UserLocale.h"
+#include "platform/UserStores.h"
 
 namespace brask {
 
@@ -21,12 +24,14 @@ class StoredSettings {
     // The system's parts that the settings need.
     struct Needs {
         Files& Disk;
+        UserStores& Stores;
         const UserLocale& Locale;
         const Texts& Words;
         DiagnosticLog& Log;
     };
 
-    // Opens the file at path, or the user's own when the path is empty.
+    // Opens the file at path. When the path is empty: the user's own store, which is a file at
+    // UserPath where the system has none.
     StoredSettings(const Needs& needs, const std::string& path, SaveFailure failed);
 
     // Valid as long as this object.
@@ -35,20 +40,27 @@ class StoredSettings {
     // (defaults then serve); empty when all is well. It is in the log already.
     const std::string& Damage() const { return damage_; }
 
-    // The INI file that holds the user's own settings; empty when no folder for it is known.
+    // The INI file that holds the user's own settings where the system has no store for them; empty
+    // when no folder for it is known.
     static std::string UserPath(const Files& files);
 
   private:
+    // The system's store of a section when no file was named, else the file's.
+    std::unique_ptr<SettingsStore> Section(const std::string& systemName,
+                                           const std::string& fileName);
     void ReportDamage(const std::string& reason, const std::string& kept);
 
     Needs needs_;
     SaveFailure failed_;
+    // of the file; empty when the system's store serves
     std::string path_;
+    // what messages call the one or the other
+    std::string place_;
     std::string damage_;
     bool opened_ = false;
     IniSettingsFile file_;
-    IniSettingsStore known_;
-    IniSettingsStore own_;
+    std::unique_ptr<SettingsStore> known_;
+    std::unique_ptr<SettingsStore> own_;
     Settings settings_;
 };
 

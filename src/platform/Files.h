@@ -36,7 +36,8 @@ class ReplacementFile {
     // Bytes are collected, so that many small writes cost little; a full disk may therefore show
     // only at a later Write or at Commit.
     virtual Status Write(std::string_view bytes) = 0;
-    // Flushes to disk, renames over the target, flushes the directory. To be called once, last.
+    // Flushes to disk, renames over the target, flushes the directory. To be called once, last, and
+    // with the target closed: Windows does not replace a file that is open.
     // When it fails the target still holds the old file, unless only the last flush of the
     // directory failed, when the new one stands but may not survive a power cut.
     virtual Status Commit() = 0;
@@ -72,6 +73,8 @@ class Files {
     virtual Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) = 0;
     // Adds bytes at the end of a file, which is created when missing.
     virtual Status Append(const std::string& path, std::string_view bytes) = 0;
+    // Has what was appended to a file, and its name, written to disk; survives a power cut when Ok.
+    virtual Status Flush(const std::string& path) = 0;
     // A new empty file of a name that nobody else has; the caller removes it. Lies in the system's
     // temporary directory; the result is its full path.
     virtual Result<std::string> CreateTemporary(const std::string& namePrefix) = 0;

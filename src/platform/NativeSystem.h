@@ -6,9 +6,14 @@
 
 #include "platform/Clock.h"
 #include "platform/Files.h"
+#include "platform/InfraredSockets.h"
+#include "platform/InstrumentAddress.h"
 #include "platform/Programs.h"
+#include "platform/StopSignal.h"
 #include "platform/SystemInformation.h"
+#include "platform/Tcp.h"
 #include "platform/UserLocale.h"
+#include "platform/UserStores.h"
 
 namespace brask {
 
@@ -20,12 +25,20 @@ class NativeSystem {
     NativeSystem(const NativeSystem&) = delete;
     NativeSystem& operator=(const NativeSystem&) = delete;
 
-    // All of these live as long as this object.
+    // All references live as long as this object.
     Files& Disk();
     Programs& OtherPrograms();
+    Tcp& Network();
+    UserStores& Stores();
     const Clock& Time() const;
     const UserLocale& Locale() const;
     const SystemInformation& Information() const;
+    // The link that leads to this instrument; whether anybody is there shows only when it is used.
+    // Never null; must not outlive this object.
+    std::unique_ptr<InfraredSockets> LinkTo(const InstrumentAddress& address);
+    // From now on, as long as the result lives, a wish that this program ends is kept for it. Never
+    // null.
+    std::unique_ptr<StopSignal> WatchStopSignal();
 
   private:
     // Behind a pointer, so that no header of one system is seen by code that runs on all.

@@ -1,6 +1,7 @@
 #include "plot/AxisMoves.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace brask {
 
@@ -26,6 +27,7 @@ AxisRange ScaledAbout(const AxisRange& range, double fixed, double factor) {
 AxisRange Containing(const AxisRange& range, double value) {
     constexpr double kMargin = 0.1;
     const double span = SpanOf(range);
+    if (!std::isfinite(value) || span <= 0) return range;
     if (value < range.Minimum) return Shifted(range, (value - range.Minimum) / span - kMargin);
     if (value > range.Maximum) return Shifted(range, (value - range.Maximum) / span + kMargin);
     return range;

@@ -22,7 +22,7 @@ AxisRange PartOf(const AxisRange& range, double from, double to);
 // Every distance from `fixed`, a value of the axis, multiplied by `factor`: below 1 zooms in.
 AxisRange ScaledAbout(const AxisRange& range, double fixed, double factor);
 // Moved, span kept, so far that the value lies a tenth of the span within it; unchanged when the
-// value is in sight already.
+// value is in sight already or cannot be brought there.
 AxisRange Containing(const AxisRange& range, double value);
 // The nearest shift of `wanted` that shows nothing beyond `limits` that `shown` does not show
 // already: a view is never pushed away from the data by hand.

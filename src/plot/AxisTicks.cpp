@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 
 #include "data/DateTime.h"
 
@@ -71,6 +72,12 @@ std::int64_t SecondOfMonth(std::int64_t month) {
            kDay;
 }
 
+// "hh:mm", with seconds where a tick stands between the minutes.
+std::string ClockLabel(double serial) {
+    const std::string time = FormatReadingTime(serial).substr(12);
+    return time.ends_with(":00") ? time.substr(0, 5) : time;
+}
+
 }  // namespace
 
 std::vector<double> DateTicks(const AxisRange& range, std::size_t most) {
@@ -93,6 +100,31 @@ std::vector<double> DateTicks(const AxisRange& range, std::size_t most) {
         return TicksAt(first, last, [step](std::int64_t n) { return SecondOfMonth(n * step); });
     }
     return {};
+}
+
+std::vector<TickLabel> TableTicks(const XAxisLabels& table, const AxisRange& range,
+                                  std::size_t most) {
+    constexpr std::ptrdiff_t kFewest = 3;
+    std::vector<TickLabel> inside;
+    std::copy_if(table.Custom.begin(), table.Custom.end(), std::back_inserter(inside),
+                 [&range](const TickLabel& label) {
+                     return label.Position >= range.Minimum && label.Position <= range.Maximum;
+                 });
+    const auto visible = std::count_if(inside.begin(), inside.end(),
+                                       [](const TickLabel& label) { return label.Visible; });
+    if (visible >= kFewest || table.UnitsPerDay == 0) return inside;
+    const double unit = table.UnitsPerDay;
+    std::vector<TickLabel> finer;
+    for (const double serial : DateTicks({range.Minimum / unit, range.Maximum / unit}, most)) {
+        const double position = serial * unit;
+        // the table's own texts, such as names of days, stay where they are
+        const auto own = std::find_if(inside.begin(), inside.end(), [&](const TickLabel& label) {
+            return std::abs(label.Position - position) < 1e-9;
+        });
+        const bool named = own != inside.end() && own->Visible;
+        finer.push_back({position, named ? own->Text : ClockLabel(serial), true});
+    }
+    return finer;
 }
 
 std::string FormatDateLabel(double serial, std::string_view format, const UserLocale& locale) {

@@ -7,7 +7,7 @@
 namespace brask {
 namespace {
 
-// A quarter of a microsecond at today's dates: narrower views show the steps of the number format.
+// Half a second at today's dates, the finest that a time stamp tells.
 constexpr double kFinestSpan = 1e-10;
 
 // Where "temp" begins in any letter case; npos when it does not occur.
@@ -47,18 +47,26 @@ bool IsShowable(const AxisRange& range) {
 bool Chart::ShowView(const ViewRecord& view) {
     // What the plot was built with can always be shown: a single reading has an X range of no
     // width, and moving Y must work there too.
-    const auto acceptable = [](const AxisRange& range, const AxisRange& shown,
-                               const AxisRange& original) {
-        return range == shown || range == original || IsShowable(range);
+    const auto accepted = [](const AxisRange& range, const AxisRange& shown,
+                             const AxisRange& original) -> std::optional<AxisRange> {
+        if (range == original || IsShowable(range)) return range;
+        // the temperature axis is inverted where no temperature is a number: it stays, and does not
+        // keep the others from moving
+        if (range == shown || !IsShowable(shown)) return shown;
+        return std::nullopt;
     };
-    if (!acceptable(view.X, X.Range(), Original.X) || !acceptable(view.Y, Y.Range(), Original.Y) ||
-        !acceptable(view.Y1, Y1.Range(), Original.Y1)) {
-        return false;
-    }
+    const auto x = accepted(view.X, X.Range(), Original.X);
+    const auto y = accepted(view.Y, Y.Range(), Original.Y);
+    const auto y1 = accepted(view.Y1, Y1.Range(), Original.Y1);
+    if (!x || !y || !y1) return false;
+    SetView({*x, *y, *y1});
+    return true;
+}
+
+void Chart::SetView(const ViewRecord& view) {
     X.SetRange(view.X.Minimum, view.X.Maximum);
     Y.SetRange(view.Y.Minimum, view.Y.Maximum);
     Y1.SetRange(view.Y1.Minimum, view.Y1.Maximum);
-    return true;
 }
 
 std::optional<Chart::SelectedValues> Chart::Selection() const {

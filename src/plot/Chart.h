@@ -70,6 +70,9 @@ struct TickLabel {
 struct XAxisLabels {
     std::vector<TickLabel> Custom;  // used unless a date format is set
     std::string DateFormat;         // such as "%d-%b-%Y\n%X"; empty for a numeric axis
+    // How much of a numeric axis one day takes: views that show next to none of the table's labels
+    // then get times of day instead. 0 for an axis that shows no time.
+    double UnitsPerDay = 0;
 };
 
 struct MarkerStyle {
@@ -194,8 +197,11 @@ class Chart {
 
     ViewRecord View() const { return {X.Range(), Y.Range(), Y1.Range()}; }
     // Sets all three axes, or none and false when one of the ranges cannot be shown. A range that
-    // is shown or was built is never refused, even an inverted one.
+    // is shown or was built is never refused, even an inverted one; an axis that shows such a range
+    // keeps it when it is asked for another one of that kind.
     bool ShowView(const ViewRecord& view);
+    // Sets all three axes to a view that was shown before, without looking at it.
+    void SetView(const ViewRecord& view);
     ChartAxisScale& ActiveScale() { return ActiveAxis == ChartAxis::kLeft ? Y : Y1; }
     // Where the selected reading lies on X and on its curve's axis; nothing without a selection.
     struct SelectedValues {

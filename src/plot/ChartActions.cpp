@@ -132,7 +132,7 @@ void ChartActions::MoveToReading(ChartAction action, ChartPoint from) {
             target = extreme(action == kCursorUpFast, chart_.Original.X);
             break;
         default:
-            return;
+            break;
     }
     SelectPoint({from.Curve, target});
 }
@@ -148,7 +148,8 @@ void ChartActions::SelectPoint(ChartPoint point) {
     chart_.Selected = point;
     ViewRecord view = chart_.View();
     AxisRange& values = curve.Axis == ChartAxis::kLeft ? view.Y : view.Y1;
-    view.X = Containing(view.X, curve.X[point.Point]);
+    // the last reading stands at the edge: no move goes past the end of the data
+    view.X = HeldWithin(Containing(view.X, curve.X[point.Point]), view.X, chart_.Original.X);
     values = Containing(values, curve.Y[point.Point]);
     if (view != chart_.View()) Show(view);
     pointSelected_(point);
@@ -251,15 +252,19 @@ void ChartActions::ZoomAbout(ChartPlace place, double factor, const ZoomAxes& ax
     if (axes.X) view.X = scaled(shown.X, place.X, chart_.Original.X);
     if (axes.Y) view.Y = scaled(shown.Y, 1 - place.Y, chart_.Original.Y);
     if (axes.Y1) view.Y1 = scaled(shown.Y1, 1 - place.Y, chart_.Original.Y1);
-    if (view == shown || !chart_.ShowView(view)) return;
-    if (!continues) Remember(shown);
+    if (!continues) burstRemembered_ = false;
+    if (!chart_.ShowView(view) || chart_.View() == shown) return;
+    // the first step of a burst that moves anything: turning further than the original scale and
+    // then back begins with steps that do not
+    if (!burstRemembered_) Remember(shown);
+    burstRemembered_ = true;
     events_->ViewChanged();
 }
 
 bool ChartActions::ZoomTo(const ViewRecord& view) {
     const ViewRecord shown = chart_.View();
     if (!chart_.ShowView(view)) return false;
-    if (view != shown) Remember(shown);
+    if (chart_.View() != shown) Remember(shown);
     events_->ViewChanged();
     return true;
 }

@@ -91,6 +91,7 @@ class ChartActions {
     Chart& chart_;
     const Texts& texts_;
     ChartViewEvents* events_ = nullptr;
+    bool burstRemembered_ = false;  // whether the zoom that goes on can be undone already
     std::function<void(ChartPoint)> pointSelected_ = [](ChartPoint) {};
     std::function<void()> copyChart_ = [] {};
     std::function<void()> openProperties_ = [] {};

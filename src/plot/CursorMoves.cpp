@@ -1,6 +1,7 @@
 #include "plot/CursorMoves.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "plot/AxisMoves.h"
@@ -25,22 +26,46 @@ class ExtremeSearch {
     }
 
   private:
-    bool Better(double y) const { return !best_ || (highest_ ? y > bestY_ : y < bestY_); }
+    // Of the readings from `first` on, of which none is higher than `height`.
+    bool Better(double height, std::size_t first) const {
+        return !best_ || height > bestHeight_ || (height == bestHeight_ && first < *best_);
+    }
+    // The least Y is the greatest height of the curve turned upside down.
+    double Height(double y) const { return highest_ ? y : -y; }
 
-    void Block(std::size_t level, std::size_t block) {
+    // Of a block that reaches into the range.
+    std::optional<double> HeightOf(std::size_t level, std::size_t block) const {
         const ValueRange& x = curve_.PyramidX->Level(level)[block];
         const ValueRange& y = curve_.PyramidY->Level(level)[block];
-        if (x.Empty() || y.Empty()) return;
-        if (x.Maximum < x_.Minimum || x.Minimum > x_.Maximum) return;
-        if (!Better(highest_ ? y.Maximum : y.Minimum)) return;
+        if (x.Empty() || y.Empty()) return std::nullopt;
+        if (x.Maximum < x_.Minimum || x.Minimum > x_.Maximum) return std::nullopt;
+        return Height(highest_ ? y.Maximum : y.Minimum);
+    }
+
+    void Block(std::size_t level, std::size_t block) {
         if (level == 0) {
             Readings(block);
             return;
         }
+        struct Child {
+            double Height = 0;
+            std::size_t Block = 0;
+        };
+        std::array<Child, CurvePyramid::kFanOut> children;
+        auto end = children.begin();
         const std::size_t first = block * CurvePyramid::kFanOut;
-        const std::size_t end =
+        const std::size_t last =
             std::min(first + CurvePyramid::kFanOut, curve_.PyramidX->Level(level - 1).size());
-        for (std::size_t child = first; child < end; ++child) Block(level - 1, child);
+        for (std::size_t child = first; child < last; ++child) {
+            if (const auto height = HeightOf(level - 1, child)) *end++ = {*height, child};
+        }
+        // the highest first: on a rising curve every block is better than the one before it
+        std::stable_sort(children.begin(), end,
+                         [](const Child& a, const Child& b) { return a.Height > b.Height; });
+        for (auto child = children.begin(); child != end; ++child) {
+            const std::size_t reading = child->Block * CurvePyramid::Span(level - 1);
+            if (Better(child->Height, reading)) Block(level - 1, child->Block);
+        }
     }
 
     void Readings(std::size_t block) {
@@ -48,9 +73,9 @@ class ExtremeSearch {
         const std::size_t end = std::min(first + CurvePyramid::kBlock, curve_.X.size());
         for (std::size_t i = first; i < end; ++i) {
             const bool inside = curve_.X[i] >= x_.Minimum && curve_.X[i] <= x_.Maximum;
-            if (!inside || !Drawable(curve_, i) || !Better(curve_.Y[i])) continue;
+            if (!inside || !Drawable(curve_, i) || !Better(Height(curve_.Y[i]), i)) continue;
             best_ = i;
-            bestY_ = curve_.Y[i];
+            bestHeight_ = Height(curve_.Y[i]);
         }
     }
 
@@ -58,7 +83,7 @@ class ExtremeSearch {
     AxisRange x_;
     bool highest_;
     std::optional<std::size_t> best_;
-    double bestY_ = 0;
+    double bestHeight_ = 0;
 };
 
 }  // namespace

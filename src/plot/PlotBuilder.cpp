@@ -81,15 +81,19 @@ PlotBuilder::PlotBuilder(Chart& chart, const DataSet& data, const UserLocale& lo
                          const Texts& texts)
     : chart_(chart), data_(data), locale_(locale), texts_(texts) {}
 
-void PlotBuilder::Rebuild(const PlotOptions& options) {
+void PlotBuilder::Clear() {
     chart_.Clear();
+    periodStarts_.clear();
+    places_ = {};
+}
+
+void PlotBuilder::Rebuild(const PlotOptions& options) {
+    Clear();
     // Clear leaves these two alone, so they are replaced as a whole
     chart_.Background = options.Background;
     chart_.Readout = texts_.Find(plot_texts::kNoPointSelected);
     extremes_ = {};
-    periodStarts_.clear();
     layout_ = options.Layout;
-    places_ = {};
 
     switch (options.Layout) {
         case GraphType::kContinuous:
@@ -208,6 +212,7 @@ ValueRange PlotBuilder::AddPair(CurvePair pair) {
 
 void PlotBuilder::LabelHours() {
     chart_.X.SetRange(0, 24);
+    chart_.Labels.UnitsPerDay = 24;
     for (int hour = 0; hour <= 24; ++hour) {
         // Every hour has its tick, every other one its label: 25 labels would run into each other.
         // The last reads 00:00, the midnight that ends the day.
@@ -219,6 +224,7 @@ void PlotBuilder::LabelHours() {
 
 void PlotBuilder::LabelWeek(int startWeekOn) {
     chart_.X.SetRange(0, 7);
+    chart_.Labels.UnitsPerDay = 1;
     const auto names = locale_.DayNames();
     for (std::size_t day = 0; day <= 7; ++day) {
         // the eighth label is the first day again: it ends the week

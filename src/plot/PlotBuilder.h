@@ -22,10 +22,13 @@ class PlotBuilder {
     PlotBuilder(Chart& chart, const DataSet& data, const UserLocale& locale, const Texts& texts);
 
     // Clears the chart and builds it from the data set. Without readings: axes and no title.
-    // The curves show the data set's own arrays: remove them before those change.
+    // The curves show the data set's own arrays: Clear() before those change.
     // The axes show everything again, whatever was in view before; the widget must be told to draw.
     // Costs a pass over the readings.
     void Rebuild(const PlotOptions& options);
+
+    // An empty chart, and nothing kept of the data set's arrays: before those change.
+    void Clear();
 
     // Of the last rebuild: its layout, and which reading each point is.
     GraphType Layout() const { return layout_; }

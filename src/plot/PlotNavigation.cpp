@@ -35,13 +35,17 @@ void PlotNavigation::ZoomIn() {
 }
 
 void PlotNavigation::ZoomOut() {
-    ApplyPopped();
+    GoBack();
     Refresh();
 }
 
-bool PlotNavigation::ApplyPopped() {
+void PlotNavigation::GoBack() {
     const auto view = stack_.Pop();
-    return view && parts_.Plot.ShowView(*view);
+    // the chart's own history would lead forward again to the zooms that are taken back here
+    auto& history = parts_.Plot.ZoomHistory;
+    while (!history.empty() && !stack_.Holds(history.back())) history.pop_back();
+    // clamped ends may be equal; that is no reason to keep X from going back
+    if (view) parts_.Plot.SetView(*view);
 }
 
 void PlotNavigation::Restore() {
@@ -85,10 +89,18 @@ void PlotNavigation::Forget() {
 }
 
 void PlotNavigation::ActionExecuted(ChartAction action) {
+    // the chart went back by itself; a second way back to the same view would lead forward again
+    if (action == ChartAction::kZoomOut) stack_.DropShown();
     if (action < ChartAction::kScrollLeft || action > ChartAction::kScrollRightFast) return;
-    // The view never scrolls past the end of the data: its end is set back, its start stays.
+    const AxisRange shown = parts_.Plot.X.Range();
     const double end = parts_.Plot.Original.X.Maximum;
-    if (parts_.Plot.X.Range().Maximum > end && parts_.Plot.X.SetMaximum(end)) Refresh();
+    if (shown.Maximum <= end) return;
+    // The view never scrolls past the end of the data: its end is set back, its start stays, until
+    // hardly anything would be left of it.
+    AxisRange held{shown.Minimum, end};
+    if (!IsShowable(held)) held = {end - SpanOf(shown), end};
+    parts_.Plot.X.SetRange(held.Minimum, held.Maximum);
+    Refresh();
 }
 
 void PlotNavigation::ErrorOccurred(int number, const std::string& description) {
@@ -99,7 +111,7 @@ void PlotNavigation::ErrorOccurred(int number, const std::string& description) {
         return;
     }
     // the chart's own history ends at a rebuild; the stack goes further back
-    ApplyPopped();
+    GoBack();
     Refresh();
     parts_.User.ShowMessage({title, parts_.Words.Find(plot_texts::kNoFurtherZoomOut)});
 }

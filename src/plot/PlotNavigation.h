@@ -62,7 +62,8 @@ class PlotNavigation final : private ChartViewEvents {
     void ViewChanged() override { Refresh(); }
     void ActionExecuted(ChartAction action) override;
     void ErrorOccurred(int number, const std::string& description) override;
-    bool ApplyPopped();
+    // Shows the view below in the stack, if there is one.
+    void GoBack();
 
     Parts parts_;
     ViewStack stack_;

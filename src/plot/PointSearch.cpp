@@ -15,7 +15,7 @@ double DistanceTo(const ValueRange& range, double value) {
     return std::max({0.0, range.Minimum - value, value - range.Maximum});
 }
 
-// By X alone.
+// By one array alone.
 struct AlongX {
     std::span<const double> X;
     const CurvePyramid& PyramidX;
@@ -30,6 +30,23 @@ struct AlongX {
     }
     double ToReading(std::size_t i) const {
         return std::isfinite(X[i]) ? std::abs(X[i] - Wanted) : kNowhere;
+    }
+};
+
+// By X, among the readings that a curve draws.
+struct AlongCurve {
+    const Curve& Shown;
+    AlongX ByX;
+
+    std::size_t Levels() const { return ByX.Levels(); }
+    std::size_t Size() const { return ByX.Size(); }
+    std::size_t Blocks(std::size_t level) const { return ByX.Blocks(level); }
+    double ToBlock(std::size_t level, std::size_t block) const {
+        if (Shown.PyramidY->Level(level)[block].Empty()) return kNowhere;
+        return ByX.ToBlock(level, block);
+    }
+    double ToReading(std::size_t i) const {
+        return std::isfinite(Shown.Y[i]) ? ByX.ToReading(i) : kNowhere;
     }
 };
 
@@ -48,24 +65,23 @@ struct OnScreen {
         if (x.Empty() || y.Empty()) return kNowhere;
         const ValueRange columns = Pixels(View.PixelX(x.Minimum), View.PixelX(x.Maximum));
         const ValueRange rows = Pixels(View.PixelY(y.Minimum), View.PixelY(y.Maximum));
-        const PixelRect& rect = View.Rect();
-        if (columns.Maximum < rect.Left || columns.Minimum > rect.Left + rect.Width ||
-            rows.Maximum < rect.Top || rows.Minimum > rect.Top + rect.Height) {
-            return kNowhere;
-        }
+        if (!InView(columns, rows)) return kNowhere;
         return std::hypot(DistanceTo(columns, Wanted.X), DistanceTo(rows, Wanted.Y));
     }
     double ToReading(std::size_t i) const {
         if (!std::isfinite(Shown.X[i]) || !std::isfinite(Shown.Y[i])) return kNowhere;
         const double x = View.PixelX(Shown.X[i]);
         const double y = View.PixelY(Shown.Y[i]);
-        // half a pixel: a reading at the very end of the range is drawn on the edge
-        const PixelRect& rect = View.Rect();
-        if (x < rect.Left - 0.5 || x > rect.Left + rect.Width + 0.5 || y < rect.Top - 0.5 ||
-            y > rect.Top + rect.Height + 0.5) {
-            return kNowhere;
-        }
+        if (!InView({x, x}, {y, y})) return kNowhere;
         return std::hypot(x - Wanted.X, y - Wanted.Y);
+    }
+    bool InView(const ValueRange& columns, const ValueRange& rows) const {
+        // half a pixel: a reading at the very end of the range is drawn on the edge
+        constexpr double kEdge = 0.5;
+        const PixelRect& rect = View.Rect();
+        return columns.Maximum >= rect.Left - kEdge &&
+               columns.Minimum <= rect.Left + rect.Width + kEdge &&
+               rows.Maximum >= rect.Top - kEdge && rows.Minimum <= rect.Top + rect.Height + kEdge;
     }
 
     // a reversed axis turns the ends round
@@ -87,7 +103,10 @@ class Search {
     }
 
   private:
-    bool Hopeless(double distance) const { return distance >= found_.Distance - slack_; }
+    bool Hopeless(double distance) const {
+        // no slack before anything is found: the outermost half pixel counts as well
+        return distance >= found_.Distance - (any_ ? slack_ : 0);
+    }
 
     void Block(std::size_t level, std::size_t block) {
         if (level == 0) {
@@ -138,7 +157,7 @@ std::optional<FoundPoint> NearestInView(const Curve& curve, const PixelView& vie
     // nobody can point more exactly than to half a pixel
     constexpr double kSlack = 0.5;
     const OnScreen metric{curve, view, place};
-    return Search<OnScreen>(metric, within, std::min(kSlack, within / 2)).Run();
+    return Search<OnScreen>(metric, within, kSlack).Run();
 }
 
 std::optional<FoundPoint> NearestValue(std::span<const double> values, const CurvePyramid& pyramid,
@@ -148,7 +167,8 @@ std::optional<FoundPoint> NearestValue(std::span<const double> values, const Cur
 }
 
 std::optional<FoundPoint> NearestInX(const Curve& curve, double x) {
-    return NearestValue(curve.X, *curve.PyramidX, x);
+    const AlongCurve metric{curve, {curve.X, *curve.PyramidX, x}};
+    return Search<AlongCurve>(metric, kNowhere, 0).Run();
 }
 
 std::optional<ChartPoint> NearestPointOnAxis(const Chart& chart, ChartAxis axis,

@@ -1,5 +1,7 @@
 #include "plot/ReadingPlaces.h"
 
+#include <algorithm>
+
 #include "plot/PointSearch.h"
 
 namespace brask {
@@ -9,40 +11,50 @@ ReadingPlaces::ReadingPlaces(std::span<const double> times,
     : times_(times),
       pyramid_(std::move(pyramid)),
       periods_{{0, 1}},
-      runs_{{0, static_cast<std::int32_t>(times.size())}} {}
+      runs_{{0, static_cast<std::int32_t>(times.size())}},
+      starts_{0} {}
 
 ReadingPlaces::ReadingPlaces(std::span<const double> times, const PeriodGrouping& grouping)
     : times_(times),
       pyramid_(std::make_shared<const CurvePyramid>(times)),
       periods_(grouping.Periods),
-      runs_(grouping.Runs) {}
+      runs_(grouping.Runs) {
+    starts_.reserve(runs_.size());
+    for (const PeriodGrouping::Period& period : periods_) {
+        std::size_t start = 0;
+        for (const ReadingRun& run : RunsOf(period)) {
+            starts_.push_back(start);
+            start += static_cast<std::size_t>(run.Count);
+        }
+    }
+}
 
 std::optional<std::size_t> ReadingPlaces::ReadingOf(ChartPoint point) const {
-    const std::size_t period = point.Curve / 2;
-    if (period >= periods_.size()) return std::nullopt;
-    std::size_t left = point.Point;
-    for (std::size_t i = 0; i < periods_[period].RunCount; ++i) {
-        const ReadingRun& run = runs_[periods_[period].FirstRun + i];
-        const auto count = static_cast<std::size_t>(run.Count);
-        if (left < count) return static_cast<std::size_t>(run.First) + left;
-        left -= count;
-    }
-    return std::nullopt;
+    if (point.Curve / 2 >= periods_.size()) return std::nullopt;
+    const PeriodGrouping::Period& period = periods_[point.Curve / 2];
+    const auto starts = std::span(starts_).subspan(period.FirstRun, period.RunCount);
+    const auto after = std::upper_bound(starts.begin(), starts.end(), point.Point);
+    const auto index = static_cast<std::size_t>(after - starts.begin()) - 1;
+    const ReadingRun& run = RunsOf(period)[index];
+    const std::size_t within = point.Point - starts[index];
+    if (within >= static_cast<std::size_t>(run.Count)) return std::nullopt;
+    return static_cast<std::size_t>(run.First) + within;
 }
 
 std::optional<ChartPoint> ReadingPlaces::PlaceOf(std::size_t reading, ChartAxis axis) const {
-    for (std::size_t period = 0; period < periods_.size(); ++period) {
-        std::size_t before = 0;
-        for (std::size_t i = 0; i < periods_[period].RunCount; ++i) {
-            const ReadingRun& run = runs_[periods_[period].FirstRun + i];
-            const auto first = static_cast<std::size_t>(run.First);
-            const auto count = static_cast<std::size_t>(run.Count);
-            if (reading >= first && reading < first + count) {
-                return ChartPoint{2 * period + (axis == ChartAxis::kLeft ? 0 : 1),
-                                  before + reading - first};
-            }
-            before += count;
-        }
+    for (std::size_t i = 0; i < periods_.size(); ++i) {
+        const auto runs = RunsOf(periods_[i]);
+        // the runs of a period follow one another in the data set
+        const auto after = std::upper_bound(runs.begin(), runs.end(), reading,
+                                            [](std::size_t wanted, const ReadingRun& run) {
+                                                return wanted < static_cast<std::size_t>(run.First);
+                                            });
+        if (after == runs.begin()) continue;
+        const auto index = static_cast<std::size_t>(after - runs.begin()) - 1;
+        const std::size_t within = reading - static_cast<std::size_t>(runs[index].First);
+        if (within >= static_cast<std::size_t>(runs[index].Count)) continue;
+        return ChartPoint{2 * i + (axis == ChartAxis::kLeft ? 0 : 1),
+                          starts_[periods_[i].FirstRun + index] + within};
     }
     return std::nullopt;
 }

@@ -33,9 +33,16 @@ class ReadingPlaces {
   private:
     std::span<const double> times_;
     std::shared_ptr<const CurvePyramid> pyramid_;
+    std::span<const ReadingRun> RunsOf(const PeriodGrouping::Period& period) const {
+        return std::span(runs_).subspan(period.FirstRun, period.RunCount);
+    }
+
     // Without the positions, which are the curves'.
     std::vector<PeriodGrouping::Period> periods_;
     std::vector<ReadingRun> runs_;
+    // Where each run begins within its curve: a file of two days in turns has as many runs as
+    // readings.
+    std::vector<std::size_t> starts_;
 };
 
 }  // namespace brask

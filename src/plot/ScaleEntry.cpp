@@ -5,7 +5,6 @@
 
 #include "data/DateTime.h"
 #include "data/NumberText.h"
-#include "plot/DisplayPeriod.h"
 #include "plot/PlotTexts.h"
 
 namespace brask {
@@ -33,7 +32,8 @@ std::string ReadRow(const ScaleRow& row, const Parser& parse, const TextRow& unr
 
 ScaleReading ReadScaleEntry(const ScaleEntry& entry, const ViewRecord& shown,
                             const UserLocale& locale, LongDateOrder order, const Texts& texts) {
-    const Parser date = [order](const std::string& text) { return ParseDisplayDate(text, order); };
+    // also dates that no display period can have: the axis of an old file begins before 2000
+    const Parser date = [order](const std::string& text) { return ParseDateTime(text, order); };
     const Parser number = [&locale](const std::string& text) {
         return ParseNumber(text, locale.DecimalSign());
     };

@@ -1,5 +1,7 @@
 #include "plot/ViewStack.h"
 
+#include <algorithm>
+
 namespace brask {
 namespace {
 
@@ -28,13 +30,21 @@ void ViewStack::Push(const ViewRecord& view) {
 }
 
 std::optional<ViewRecord> ViewStack::Pop() {
-    if (TopIsShown()) views_.pop_back();
+    DropShown();
     if (views_.empty()) return std::nullopt;
     ViewRecord view = views_.back();
     views_.pop_back();
     view.Y = Clamped(view.Y, chart_.Original.Y);
     view.Y1 = Clamped(view.Y1, chart_.Original.Y1);
     return view;
+}
+
+void ViewStack::DropShown() {
+    if (TopIsShown()) views_.pop_back();
+}
+
+bool ViewStack::Holds(const ViewRecord& view) const {
+    return std::find(views_.begin(), views_.end(), view) != views_.end();
 }
 
 bool ViewStack::CanPop() const { return views_.size() > (TopIsShown() ? 1U : 0U); }

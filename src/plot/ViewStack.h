@@ -20,7 +20,10 @@ class ViewStack {
     // shown is dropped for good on the way, even when nothing lies below it. The Y ranges come back
     // within the original scale, the X range as it was.
     std::optional<ViewRecord> Pop();
+    // Drops a record of the view that is shown.
+    void DropShown();
     void Clear() { views_.clear(); }
+    bool Holds(const ViewRecord& view) const;
     // Whether there is a view to go back to: one that is shown already does not count.
     bool CanPop() const;
     std::size_t Count() const { return views_.size(); }

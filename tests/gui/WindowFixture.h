@@ -39,7 +39,7 @@ class WindowFixture : public testing::Test {
     // Starts the window with the settings as they are in Store.
     frmBraskLite& Start() {
         window_ = std::make_unique<frmBraskLite>(
-            System{User, texts_, Disk, locale_, information_, clock_},
+            System{User, texts_, Disk, locale_, information_, Clock},
             Session{Data, loader_, Unit, LongDateOrder::kMonthDayYear, directories_, Options, log_},
             Plotting{Plot, builder_, Actions, Navigation, Selection, Period}, Choose);
         window_->FormLoad();
@@ -64,6 +64,7 @@ class WindowFixture : public testing::Test {
     MemoryFiles Disk;
     MemorySettingsStore Store;
     MemorySettingsStore OwnStore;
+    ManualClock Clock;
     DataSet Data;
     TemperatureUnit Unit;
     Chart Plot;
@@ -71,9 +72,8 @@ class WindowFixture : public testing::Test {
   private:
     EnglishTexts texts_;
     FixedUserLocale locale_;
-    ManualClock clock_;
     FixedSystemInformation information_;
-    DiagnosticLog log_{Disk, clock_};
+    DiagnosticLog log_{Disk, Clock};
 
   protected:
     Settings Options{Store, OwnStore, locale_, [](const auto&, const auto&) {}};

@@ -1,5 +1,3 @@
-#include <sys/stat.h>
-
 #include "ProgramRunner.h"
 
 namespace brask {
@@ -67,12 +65,10 @@ TEST_F(BraskData, ListPrintsTheGrid) {
 }
 
 TEST_F(BraskData, WhatHoldsNoReadingsFails) {
-    ASSERT_EQ(mkfifo(At("pipe").c_str(), 0600), 0);
     // the path and the reason in front of "No data was read", empty for none
     const std::pair<std::string, const char*> cases[] = {
-        {At("missing.csv"), "No such file or directory"},
+        {At("missing.csv"), "Cannot read "},
         {At(""), "Is a directory"},
-        {At("pipe"), "not a regular file"},
         {Write("header.csv", kHeader), ""},
         {Write("lf.csv", "GAS: CO\nJAN-01-2003 00:05:12,    0.1,  26.1\n"), ""},
         {Write("binary.csv", std::string("\xFF,:\x1B[2J,\0\x90\r\n", 12)), "\x1B[2J"}};

@@ -1,24 +1,22 @@
 #include "ProgramRunner.h"
 
-#include <sys/wait.h>
-
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <set>
+
+#include "platform/NativeSystem.h"
 
 namespace brask {
 
 namespace fs = std::filesystem;
 
 ProgramTest::ProgramTest() {
-    std::string name = (fs::temp_directory_path() / "brask-system-XXXXXX").string();
-    home_ = mkdtemp(name.data());
-    for (const auto& [key, folder] : {std::pair("HOME", ""), std::pair("XDG_CONFIG_HOME", "config"),
-                                      std::pair("XDG_STATE_HOME", "state")}) {
-        setenv(key, (home_ / folder).c_str(), 1);
-    }
-    setenv("LC_ALL", "C.UTF-8", 1);
+    const fs::path unique = NativeSystem().Disk().CreateTemporary("brask-system-").Value();
+    // not below a directory called temp, where data files are treated in another way
+    home_ = (fs::absolute(BRASK_BIN "/tests") / unique.filename()).make_preferred();
+    fs::create_directory(home_);
+    fs::remove(unique);
+    LiveIn(home_.string());
 }
 
 ProgramTest::~ProgramTest() {
@@ -30,13 +28,8 @@ Finished ProgramTest::Run(const std::vector<std::string>& arguments, const std::
     // beside the home, so that listings of it show only what the program made
     const std::string outPath = out.empty() ? home_.string() + ".out" : out;
     const std::string errorPath = home_.string() + ".err";
-    std::string command = "exec '" BRASK_BIN "/brask'";
-    // in single quotes a shell changes nothing; no word of these tests holds one
-    for (const std::string& word : arguments) command += " '" + word + "'";
-    command += " </dev/null >'" + outPath + "' 2>'" + errorPath + "'";
-    const int state = std::system(command.c_str());
-    Finished finished{WIFEXITED(state) ? WEXITSTATUS(state) : -1, out.empty() ? Read(outPath) : "",
-                      Read(errorPath)};
+    const int status = RunToEnd("brask", arguments, {outPath, errorPath});
+    Finished finished{status, out.empty() ? Read(outPath) : "", Read(errorPath)};
     if (out.empty()) fs::remove(outPath);
     fs::remove(errorPath);
     return finished;

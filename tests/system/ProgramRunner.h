@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "StartProgram.h"
+
 namespace brask {
 
 struct Finished {
@@ -28,8 +30,12 @@ class ProgramTest : public testing::Test {
     // Runs brask with --json; the one document, null (and a failure) when there is none.
     rapidjson::Document Json(std::vector<std::string> arguments, int expectedStatus = 0) const;
 
-    // A path in the home.
-    std::string At(const std::string& name) const { return (home_ / name).string(); }
+    // A path in the home, with the system's separators.
+    std::string At(const std::string& name) const {
+        return (home_ / name).make_preferred().string();
+    }
+    // Of the diagnostic log.
+    std::string Log() const { return Read(LogPath(home_.string())); }
     // Writes a file there; its path.
     std::string Write(const std::string& name, const std::string& bytes) const;
     // Of a file there, or anywhere when the path is absolute; empty when there is none.

@@ -34,7 +34,14 @@ QGroupBox* ProgramOptionsPage::BuildProgramFrame() {
     for (QCheckBox* box : {chkOpenFullSize, chkNotifyUserNewFiles, chkAutoDeleteK42}) {
         frame->layout()->addWidget(box);
     }
+    MakeLive(chkNotifyUserNewFiles, "NotifyUserOfNewFiles");
+    MakeLive(chkAutoDeleteK42, "AutoClear");
     return frame;
+}
+
+void ProgramOptionsPage::MakeLive(QCheckBox* box, const char* key) {
+    box->setEnabled(true);
+    connect(box, &QCheckBox::toggled, this, [this, key](bool on) { emit FlagChosen(key, on); });
 }
 
 QGroupBox* ProgramOptionsPage::BuildDirectoryFrame() {
@@ -65,6 +72,7 @@ QGroupBox* ProgramOptionsPage::BuildLinksFrame() {
         return box;
     };
     cmbInstrumentAddress = address("cmbInstrumentAddress");
+    BuildInstrumentChoice();
     cmbHandheldAddress = address("cmbHandheldAddress");
     auto* handheld = new QHBoxLayout;
     handheld->addWidget(cmbHandheldAddress, 1);
@@ -75,6 +83,21 @@ QGroupBox* ProgramOptionsPage::BuildLinksFrame() {
     form->addRow(ToQt(texts_, kHandheld), handheld);
     static_cast<QVBoxLayout*>(frame->layout())->addLayout(form);
     return frame;
+}
+
+void ProgramOptionsPage::BuildInstrumentChoice() {
+    cmbInstrumentAddress->setEnabled(true);
+    cmbInstrumentAddress->setAccessibleName(ToQt(texts_, kInstrumentLink));
+    // what was typed is no entry before it is known to be an address
+    cmbInstrumentAddress->setInsertPolicy(QComboBox::NoInsert);
+    cmbInstrumentAddress->addItem(QStringLiteral("irda"));
+    cmbInstrumentAddress->lineEdit()->setPlaceholderText(ToQt(texts_, kInstrumentHint));
+    const auto chosen = [this] {
+        const QString address = cmbInstrumentAddress->currentText();
+        if (address != instrument_) emit InstrumentAddressChosen(address);
+    };
+    connect(cmbInstrumentAddress->lineEdit(), &QLineEdit::editingFinished, this, chosen);
+    connect(cmbInstrumentAddress, &QComboBox::activated, this, chosen);
 }
 
 void ProgramOptionsPage::BuildHandheldChoice() {
@@ -113,7 +136,7 @@ void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,
 
 void ProgramOptionsPage::ShowAddresses(const QString& instrument, const QString& handheld) {
     // not added to the list: that is for what a search finds
-    cmbInstrumentAddress->setEditText(instrument);
+    ShowInstrumentAddress(instrument);
     ShowHandheldAddress(handheld);
 }
 
@@ -124,6 +147,15 @@ void ProgramOptionsPage::ShowHandheldAddress(const QString& handheld) {
         cmbHandheldAddress->addItem(handheld);
     }
     cmbHandheldAddress->setEditText(handheld);
+}
+
+void ProgramOptionsPage::ShowInstrumentAddress(const QString& instrument) {
+    instrument_ = instrument;
+    // the ones used in this run, to change between them
+    if (!instrument.isEmpty() && cmbInstrumentAddress->findText(instrument) < 0) {
+        cmbInstrumentAddress->addItem(instrument);
+    }
+    cmbInstrumentAddress->setEditText(instrument);
 }
 
 }  // namespace brask

@@ -39,11 +39,17 @@ class ProgramOptionsPage final : public QWidget {
     // The links in force, as they are stored.
     // Shown as typed; nothing is looked up.
     void ShowAddresses(const QString& instrument, const QString& handheld);
+    // The instrument's address alone; sends nothing.
+    void ShowInstrumentAddress(const QString& instrument);
     // The handheld's address alone; sends nothing.
     void ShowHandheldAddress(const QString& handheld);
 
   signals:
-    // Typed or chosen from the list, and another one than shown before; not checked yet.
+    // A box was set or cleared; the key is the setting's. Also sent when options are shown, under
+    // the loading guard.
+    void FlagChosen(const char* key, bool on);
+    // Typed or chosen from the lists, and another one than shown before; not checked yet.
+    void InstrumentAddressChosen(const QString& address);
     void HandheldAddressChosen(const QString& address);
     void HandheldBrowseWanted();
 
@@ -52,6 +58,8 @@ class ProgramOptionsPage final : public QWidget {
     QGroupBox* BuildProgramFrame();
     QGroupBox* BuildDirectoryFrame();
     QGroupBox* BuildLinksFrame();
+    void BuildInstrumentChoice();
+    void MakeLive(QCheckBox* box, const char* key);
     void BuildHandheldChoice();
 
     const Texts& texts_;
@@ -69,7 +77,9 @@ class ProgramOptionsPage final : public QWidget {
     QComboBox* cmbInstrumentAddress = nullptr;
     QComboBox* cmbHandheldAddress = nullptr;
     QPushButton* cmdBrowseHandheld = nullptr;
-    QString handheld_;  // as shown last
+    // As shown last.
+    QString instrument_;
+    QString handheld_;
 };
 
 }  // namespace brask

@@ -52,6 +52,8 @@ frmBraskLite::frmBraskLite(const System& system, const Session& session, const P
         PlotCommands::Parts{plotting_, session_, document_, commands_, system_.User, system_.Locale,
                             system_.Words},
         *this);
+    instrument_ =
+        std::make_unique<InstrumentCommand>(system_, session_, document_, commands_, *this);
     // before the menus: an item whose command is unknown starts disabled
     RegisterCommands();
     menus_ = std::make_unique<MenuBar>(*menuBar(), system_.Words, commands_);
@@ -83,6 +85,7 @@ void frmBraskLite::BuildPages() {
     // only when all pages are there: adding the first one selects it
     connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { SSTab1_Click(tab); });
     connect(SSTab1, &TabControl::DisabledTabClicked, this, [this](int tab) { SSTab1_Click(tab); });
+    instrument_->Serve(*programOptions_);
     handheld_->Serve(*programOptions_);
     connect(graphOptions_, &GraphOptionsPage::GraphTypeChosen, this,
             [this](int index) { optGraph_Click(index); });

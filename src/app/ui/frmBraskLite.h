@@ -10,6 +10,7 @@
 #include "app/ui/FileCommands.h"
 #include "app/ui/GraphOptionsPage.h"
 #include "app/ui/GraphPage.h"
+#include "app/ui/InstrumentCommand.h"
 #include "app/ui/HandheldCommand.h"
 #include "app/ui/MenuBar.h"
 #include "app/ui/PlotCommands.h"
@@ -49,6 +50,10 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     // Opens a data file from disk.
     // Returns when the load has ended; ignored while another one runs.
     void OpenFile(const QString& path) { files_->OpenFile(path); }
+    // The link to the instrument, which main fills in.
+    InstrumentCommand& Instrument() { return *instrument_; }
+    // Downloads as the menu item does.
+    void Download() { commands_.Run("mnuReadDataFromTalvexK42"); }
     // For the command line, before FormLoad, whose notice depends on the handheld; and for tests.
     HandheldCommand& Handheld() { return *handheld_; }
     // Whether the stored options ask for a maximized window.
@@ -118,6 +123,7 @@ class frmBraskLite final : public QMainWindow, private DocumentView {
     std::unique_ptr<FileCommands> files_;
     std::unique_ptr<HandheldCommand> handheld_;
     std::unique_ptr<PlotCommands> plotCommands_;
+    std::unique_ptr<InstrumentCommand> instrument_;
     // Children of the window, which deletes them.
     Toolbar* Toolbar1 = nullptr;
     TabControl* SSTab1 = nullptr;

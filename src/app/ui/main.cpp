@@ -27,6 +27,8 @@ struct WindowArguments {
     QString Settings;
     QString Root;
     std::optional<LongDateOrder> DateOrder;
+    std::optional<InstrumentAddress> Instrument;
+    bool Download = false;
     std::optional<HandheldAddress> Handheld;
 };
 
@@ -52,25 +54,39 @@ Result<WindowArguments> ParseArguments(const QStringList& words, const Texts& te
                                   QStringLiteral("DIR"));
     const QCommandLineOption order(QStringLiteral("date-order"),
                                    ToQt(texts, app_texts::kUsageOrder), QStringLiteral("ORDER"));
+    const QCommandLineOption instrument(QStringLiteral("instrument"),
+                                        ToQt(texts, app_texts::kUsageInstrument),
+                                        QStringLiteral("ADDRESS"));
+    const QCommandLineOption download(QStringLiteral("download"),
+                                      ToQt(texts, app_texts::kUsageDownload));
     const QCommandLineOption handheld(QStringLiteral("handheld"),
                                       ToQt(texts, app_texts::kUsageHandheld),
                                       QStringLiteral("ADDRESS"));
-    parser.addOptions({settings, root, order, handheld});
+    parser.addOptions({settings, root, order, instrument, download, handheld});
     if (!parser.parse(words)) return Error{0, FromQt(parser.errorText())};
     // only after unknown words were refused
     if (parser.isSet(help)) parser.showHelp();
     if (parser.isSet(version)) parser.showVersion();
     const auto named = DateOrderNamed(parser.value(order));
     if (parser.isSet(order) && !named) return Error{0, texts.Find(app_texts::kUsageBadOrder)};
-    std::optional<HandheldAddress> link;
+    const auto link = ParseInstrumentAddress(FromQt(parser.value(instrument)));
+    if (parser.isSet(instrument) && !link) {
+        return Error{0, texts.Find(app_texts::kUsageBadInstrument)};
+    }
+    std::optional<HandheldAddress> folder;
     if (parser.isSet(handheld)) {
-        link = ParseHandheldAddress(FromQt(parser.value(handheld)));
-        if (!link) return Error{0, texts.Find(app_texts::kUsageBadHandheld)};
+        folder = ParseHandheldAddress(FromQt(parser.value(handheld)));
+        if (!folder) return Error{0, texts.Find(app_texts::kUsageBadHandheld)};
     }
     if (parser.positionalArguments().size() > 1)
         return Error{0, texts.Find(app_texts::kUsageOneFile)};
-    return WindowArguments{parser.positionalArguments().value(0), parser.value(settings),
-                           parser.value(root), named, link};
+    return WindowArguments{parser.positionalArguments().value(0),
+                           parser.value(settings),
+                           parser.value(root),
+                           named,
+                           link,
+                           parser.isSet(download),
+                           folder};
 }
 
 // Before there is an application for the windows: --help needs no display.
@@ -100,7 +116,8 @@ int RunWindow(int argc, char** argv) {
     // Each object is given what stands above it, so they go in the opposite order, the window
     // first.
     DiagnosticLog log(native.Disk(), native.Time());
-    StoredSettings stored({native.Disk(), native.Locale(), texts, log}, FromQt(line.Settings),
+    StoredSettings stored({native.Disk(), native.Stores(), native.Locale(), texts, log},
+                          FromQt(line.Settings),
                           [&user](const std::string& text) { user.ShowNotice(text); });
     DataSet data;
     TemperatureUnit unit(stored.Options().Number("DisplayTemperatureUnits") != 0);
@@ -123,6 +140,9 @@ int RunWindow(int argc, char** argv) {
 
     frmBraskLite window(system, session, {chart, builder, actions, navigation, selection, period},
                         choosers);
+    window.Instrument().UseLinks(
+        [&native](const InstrumentAddress& address) { return native.LinkTo(address); });
+    if (line.Instrument) window.Instrument().Override(*line.Instrument);
     // before FormLoad, whose messages belong to the window
     user.SetViews(&window, &window.Progress(), &window.Notices());
     if (line.Handheld) window.Handheld().Override(*line.Handheld);
@@ -137,10 +157,12 @@ int RunWindow(int argc, char** argv) {
     }
     // last of the start-up, so that no other notice covers it
     if (!stored.Damage().empty()) user.ShowNotice(stored.Damage());
-    if (!line.File.isEmpty()) {
-        // once the loop runs: the window is seen before a long load begins
-        QTimer::singleShot(0, &window, [&] { window.OpenFile(line.File); });
-    }
+    // once the loop runs: the window is seen before a long load begins, and that has ended before
+    // the download begins
+    QTimer::singleShot(0, &window, [&] {
+        if (!line.File.isEmpty()) window.OpenFile(line.File);
+        if (line.Download) window.Download();
+    });
     return QApplication::exec();
 }
 

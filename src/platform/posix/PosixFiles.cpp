@@ -91,6 +91,12 @@ Status PosixFiles::Append(const std::string& path, std::string_view bytes) {
     return {};
 }
 
+Status PosixFiles::Flush(const std::string& path) {
+    const Handle handle(::open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!handle.Open() || ::fsync(handle.Get()) != 0) return LastError();
+    return posix::FlushDirectory(posix::DirectoryOf(path));
+}
+
 Result<std::string> PosixFiles::CreateTemporary(const std::string& namePrefix) {
     std::error_code code;
     // fails where TMPDIR names nothing usable

@@ -16,6 +16,7 @@ class PosixFiles final : public Files {
     Result<std::unique_ptr<InputFile>> Open(const std::string& path) override;
     Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) override;
     Status Append(const std::string& path, std::string_view bytes) override;
+    Status Flush(const std::string& path) override;
     Result<std::string> CreateTemporary(const std::string& namePrefix) override;
     Status CopyToNew(const std::string& source, const std::string& target) override;
     Status Move(const std::string& source, const std::string& target) override;

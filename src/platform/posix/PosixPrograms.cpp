@@ -8,6 +8,12 @@
 
 namespace brask {
 
+std::vector<std::string> PosixPrograms::CommandWords(std::span<char* const> arguments) const {
+    // a program may be started without even its own name
+    if (arguments.empty()) return {};
+    return {arguments.begin() + 1, arguments.end()};
+}
+
 Error PosixPrograms::Become(const std::string& program, std::span<const std::string> arguments) {
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());

@@ -83,6 +83,13 @@ Status MemoryFiles::Append(const std::string& path, std::string_view bytes) {
     return {};
 }
 
+Status MemoryFiles::Flush(const std::string& path) {
+    if (Status step = Step(); !step.Ok()) return step;
+    if (!Contents.contains(path)) return SystemError(ENOENT);
+    Flushed[path] = Contents[path].size();
+    return {};
+}
+
 Result<std::string> MemoryFiles::CreateTemporary(const std::string& namePrefix) {
     if (Status step = Step(); !step.Ok()) return step.Why();
     const std::string path = "/tmp/" + namePrefix + std::to_string(Operations);

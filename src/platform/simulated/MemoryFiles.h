@@ -20,11 +20,14 @@ class MemoryFiles final : public Files {
     bool FailForGood = false;
     // Operations so far that could have failed.
     int Operations = 0;
+    // Sizes that files had when they were flushed last.
+    std::map<std::string, std::size_t> Flushed;
     bool NoMove = false;  // Move always fails, as across file systems
 
     Result<std::unique_ptr<InputFile>> Open(const std::string& path) override;
     Result<std::unique_ptr<ReplacementFile>> Replace(const std::string& path) override;
     Status Append(const std::string& path, std::string_view bytes) override;
+    Status Flush(const std::string& path) override;
     Result<std::string> CreateTemporary(const std::string& namePrefix) override;
     Status CopyToNew(const std::string& source, const std::string& target) override;
     Status Move(const std::string& source, const std::string& target) override;

@@ -3,9 +3,13 @@
 #include <utility>
 
 #include "platform/HandheldAddress.h"
+#include "platform/windows/WindowsText.h"
 
 namespace brask {
 namespace {
+
+using windows::ToUtf8;
+using windows::ToWide;
 
 // What the library's functions take and give, as its interface lays it down.
 struct RapiInit {
@@ -31,26 +35,11 @@ constexpr DWORD kWaitMilliseconds = 100;
 constexpr DWORD kAnyInput = 239;  // keys, mouse, timers, painting, posted messages
 constexpr DWORD kNoSize = 0xFFFFFFFF;
 
-std::wstring Wide(const std::string& utf8) {
-    const int bytes = static_cast<int>(utf8.size());
-    const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(length), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, wide.data(), length);
-    return wide;
-}
-
-std::string Utf8(const WCHAR* wide, int length) {
-    const int bytes = WideCharToMultiByte(CP_UTF8, 0, wide, length, nullptr, 0, nullptr, nullptr);
-    std::string utf8(static_cast<std::size_t>(bytes), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide, length, utf8.data(), bytes, nullptr, nullptr);
-    return utf8;
-}
-
 // The handheld fills the record; nothing says that it ends the name.
 std::string NameOf(const CeFindData& found) {
-    int length = 0;
+    std::size_t length = 0;
     while (length < MAX_PATH && found.Name[length] != L'\0') ++length;
-    return Utf8(found.Name, length);
+    return ToUtf8({found.Name, length});
 }
 
 // A file of the folder that was searched; a name with a "\\" in it would lead elsewhere.
@@ -62,7 +51,9 @@ bool IsFile(const CeFindData& found) {
 }  // namespace
 
 struct RapiHandheld::Library {
-    HMODULE Module = LoadLibraryW(L"rapi.dll");
+    // never from the folder that a shell happens to stand in
+    HMODULE Module = LoadLibraryExW(
+        L"rapi.dll", nullptr, LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
     HRESULT(WINAPI* Init)(RapiInit*) = nullptr;
     HRESULT(WINAPI* Uninit)() = nullptr;
     HANDLE(WINAPI* FindFirstFile)(LPCWSTR, CeFindData*) = nullptr;
@@ -182,7 +173,7 @@ void RapiHandheld::EndSearch() {
 Result<std::string> RapiHandheld::FindFirst(const std::string& pattern) {
     EndSearch();
     CeFindData found = {};
-    search_ = library_->FindFirstFile(Wide(pattern).c_str(), &found);
+    search_ = library_->FindFirstFile(ToWide(pattern).c_str(), &found);
     if (search_ == INVALID_HANDLE_VALUE) return LastError();
     if (IsFile(found)) return NameOf(found);
     return FindNext();
@@ -193,7 +184,7 @@ Result<std::string> RapiHandheld::FindNext() {
     do {
         if (search_ == INVALID_HANDLE_VALUE) return Error{ERROR_NO_MORE_FILES, "no more files"};
         if (library_->FindNextFile(search_, &found) == 0) {
-            const Error error = LastError();
+            Error error = LastError();
             EndSearch();
             return error;
         }
@@ -203,7 +194,7 @@ Result<std::string> RapiHandheld::FindNext() {
 
 Result<std::unique_ptr<HandheldFile>> RapiHandheld::Open(const std::string& path) {
     const HANDLE handle =
-        library_->CreateFile(Wide(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+        library_->CreateFile(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE) return LastError();
     std::unique_ptr<HandheldFile> file = std::make_unique<File>(library_, handle);
@@ -211,16 +202,16 @@ Result<std::unique_ptr<HandheldFile>> RapiHandheld::Open(const std::string& path
 }
 
 Status RapiHandheld::Delete(const std::string& path) {
-    return library_->DeleteFile(Wide(path).c_str()) != 0 ? Status() : Status(LastError());
+    return library_->DeleteFile(ToWide(path).c_str()) != 0 ? Status() : Status(LastError());
 }
 
 Status RapiHandheld::Move(const std::string& from, const std::string& to) {
-    const bool moved = library_->MoveFile(Wide(from).c_str(), Wide(to).c_str()) != 0;
+    const bool moved = library_->MoveFile(ToWide(from).c_str(), ToWide(to).c_str()) != 0;
     return moved ? Status() : Status(LastError());
 }
 
 Status RapiHandheld::MakeFolder(const std::string& path) {
-    const bool made = library_->CreateDirectory(Wide(path).c_str(), nullptr) != 0;
+    const bool made = library_->CreateDirectory(ToWide(path).c_str(), nullptr) != 0;
     return made ? Status() : Status(LastError());
 }
 

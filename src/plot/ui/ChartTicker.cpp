@@ -23,12 +23,13 @@ void ChartTicker::generate(const QCPRange& range, const QLocale& /*locale*/, QCh
             labels.append(QString::fromStdString(FormatDateLabel(tick, table.DateFormat, locale_)));
         }
     }
-    // ticks beyond the range would still be drawn, outside the axes; text and tick lists must stay
-    // of equal length
-    for (const TickLabel& label : table.Custom) {
-        if (!table.DateFormat.empty() || !range.contains(label.Position)) continue;
-        ticks.append(label.Position);
-        labels.append(label.Visible ? QString::fromStdString(label.Text) : QString());
+    if (table.DateFormat.empty()) {
+        // text and tick lists must stay of equal length
+        for (const TickLabel& label :
+             TableTicks(table, {range.lower, range.upper}, mostLabels_())) {
+            ticks.append(label.Position);
+            labels.append(label.Visible ? QString::fromStdString(label.Text) : QString());
+        }
     }
     if (tickLabels != nullptr) *tickLabels = labels;
 }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <cstdio>
 #include <limits>
 
 #include "cli/JsonWriter.h"
@@ -11,16 +11,15 @@ namespace {
 // What `write` sends to a file through a JSON writer.
 template <class Write>
 std::string Written(Write write) {
-    char* bytes = nullptr;
-    std::size_t length = 0;
-    std::FILE* file = open_memstream(&bytes, &length);
+    std::FILE* file = std::tmpfile();
     OutputBuffer out(file);
     JsonWriter json(out);
     write(json);
     EXPECT_TRUE(out.Finish().Ok());
+    std::string text(static_cast<std::size_t>(std::ftell(file)), '\0');
+    std::rewind(file);
+    text.resize(std::fread(text.data(), 1, text.size(), file));
     std::fclose(file);
-    std::string text(bytes, length);
-    std::free(bytes);
     return text;
 }
 

@@ -16,4 +16,16 @@ inline Curve CurveOf(std::vector<double> x, std::vector<double> y) {
     return curve;
 }
 
+// A gas and a temperature curve over the same X, in a chart that was built with these axes.
+inline void ShowPair(Chart& chart, const std::vector<double>& x, const std::vector<double>& gas,
+                     const std::vector<double>& temperature, const ViewRecord& axes) {
+    chart.Clear();
+    chart.AddCurve(CurveOf(x, gas));
+    Curve curve = CurveOf(x, temperature);
+    curve.Axis = ChartAxis::kRight;
+    chart.AddCurve(curve);
+    chart.SetView(axes);
+    chart.Original = axes;
+}
+
 }  // namespace brask

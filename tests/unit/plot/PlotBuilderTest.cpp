@@ -2,10 +2,8 @@
 
 #include <limits>
 
+#include "BuiltPlot.h"
 #include "data/DateTime.h"
-#include "platform/simulated/FixedUserLocale.h"
-#include "platform/simulated/MemorySettingsStore.h"
-#include "plot/PlotBuilder.h"
 
 namespace brask {
 namespace {
@@ -13,33 +11,8 @@ namespace {
 using enum GraphType;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double k5March2004 = 38051;  // a Friday
-
-struct Reading {
-    double Time;
-    double Gas;
-    double Temperature;
-};
-
-class Builder : public testing::Test {
+class Builder : public BuiltPlot {
   protected:
-    // Rebuilds the chart from these readings, with the settings in Store.
-    void Build(GraphType layout, const std::vector<Reading>& readings) {
-        Data.ReadingTime.clear();
-        Data.GasPpm.clear();
-        Data.Temperature.clear();
-        for (const Reading& reading : readings) {
-            Data.ReadingTime.push_back(reading.Time);
-            Data.GasPpm.push_back(reading.Gas);
-            Data.Temperature.push_back(reading.Temperature);
-        }
-        Data.ReadingCount = static_cast<std::int32_t>(readings.size());
-        Store.Values["GraphType"] = std::to_string(static_cast<int>(layout));
-        MemorySettingsStore own;
-        const Settings settings(Store, own, Locale, [](const auto&, const auto&) {});
-        Options = ReadPlotOptions(settings, TemperatureUnit());
-        Plot.Rebuild(Options);
-    }
     const Curve& At(std::size_t index) const { return Chart1.Curves()[index]; }
     std::string Names() const {
         std::string names;
@@ -47,14 +20,6 @@ class Builder : public testing::Test {
         return names;
     }
     ColorValue Color(int period) const { return Options.Colors.CurveColor(period); }
-
-    Chart Chart1;
-    DataSet Data;
-    FixedUserLocale Locale;
-    EnglishTexts Texts1;
-    MemorySettingsStore Store;
-    PlotOptions Options;
-    PlotBuilder Plot{Chart1, Data, Locale, Texts1};
 };
 
 std::vector<double> Values(std::span<const double> values) {

@@ -1,0 +1,17 @@
+// brask download: one download from the instrument.
+#pragma once
+
+#include <span>
+
+#include "cli/CommandLine.h"
+
+namespace brask {
+
+// --instrument, --clear, --no-clear, --timeout.
+std::span<const OptionRow> DownloadOptionRows();
+
+// Done when the download was accepted, cleared or not. A rejection that has no message names the
+// log, which has the reason.
+ExitStatus RunDownload(Shell& shell, const CommandLine& line);
+
+}  // namespace brask

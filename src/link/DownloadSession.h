@@ -1,0 +1,91 @@
+// One download from the instrument from start to end, without a window: start the sockets, wait for
+// the instrument, receive its readings, verify and file them, clear the instrument when that is
+// wanted, close everything.
+//
+// It runs on the one thread there is and lets events run all the while. Whoever shows it is told by
+// a DownloadView and calls Cancel from those events.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "link/DownloadDisplay.h"
+#include "link/IdleTimer.h"
+#include "link/InstrumentCommands.h"
+#include "link/IrdaTransport.h"
+#include "link/LinkNeeds.h"
+
+namespace brask {
+
+struct DownloadOptions {
+    // Whether to clear the instrument after a good download; the setting "AutoClear" when nothing.
+    std::optional<bool> Clear;
+    // When to give up while no connection stands, in milliseconds; never when nothing.
+    std::optional<std::int64_t> ConnectTimeout;
+};
+
+struct DownloadReport {
+    bool Accepted = false;
+    bool Cleared = false;  // the instrument has said so
+    bool GivenUp = false;  // no connection stood in time
+    std::string File;      // where the data file lies, a rejected one too; empty for none
+    std::string RawFile;   // the stream as received; it stays
+    std::int64_t Bytes = 0;
+};
+
+class DownloadSession {
+  public:
+    DownloadSession(InfraredSockets& sockets, const LinkSystem& system, const LinkData& data,
+                    DownloadView& view, DownloadOptions options);
+
+    // Runs the download; to be called once. Sets the session's state to running and always to
+    // another one before it returns: finished, with or without an accepted file, or cancelled. Its
+    // received file is empty then unless the download was accepted.
+    DownloadReport Run();
+
+    // Ends the run, whatever it is waiting for, within 200 ms. The received file is given up, what
+    // was received stays on disk. Does nothing when it has ended.
+    void Cancel();
+
+    // Since the connection stood; before it, since Run.
+    std::int64_t ElapsedTenths() const;
+
+  private:
+    enum class Ending { kFinished, kCancelled };
+
+    Ending RunSteps();
+    bool BeginRawFile();
+    bool StartLibrary();
+    bool AwaitConnection();
+    bool Receive();
+    bool TakeBlock(const std::string& text);
+    void AwaitLineFeed();
+    void Finish();
+    void KeepStream();
+    bool SafeOnDisk();
+    void ClearInstrument();
+    void AwaitClearAnswer();
+    bool KeepGoing();
+    bool GiveUpDue() const;
+    void SetLabel(std::size_t index, const std::string& text);
+    void SetPrompt(bool on);
+    void ClearLabels();
+    void Enter(DownloadStep step);
+    void ReportUnwritten(const std::string& path, const std::string& reason);
+    void Log(const TextRow& row, std::initializer_list<std::string_view> arguments);
+    void ShowText(const TextRow& row);
+
+    LinkSystem system_;
+    LinkData data_;
+    DownloadView& view_;
+    DownloadOptions options_;
+    IrdaTransport transport_;
+    DownloadDisplay display_;
+    DownloadReport report_;
+    EndOfData end_;
+    bool connected_ = false;
+    std::int64_t begun_ = 0;  // steady milliseconds; what the elapsed time counts from
+};
+
+}  // namespace brask

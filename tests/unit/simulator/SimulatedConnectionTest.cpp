@@ -1,0 +1,249 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "link/SimulatedConnection.h"
+#include "link/StreamEncoder.h"
+#include "platform/simulated/ManualClock.h"
+
+namespace brask {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string kLine = "JAN-01-2003 00:05:12,    0.1,  26.1\r\n";
+const std::string kHead = "INSTRUMENT: K\r\n";
+const std::string kFile = kHead + kLine + kLine + kLine + "END DATA:      3\r\n";
+const std::string kStream = kHead + kLine + "\xA5\xA5" + "END DATA:      3\r\n";
+const std::string kAddress = "\x1A\0KB42IrDA:IrCOMM"s + std::string(14, '\0');
+
+// A connection whose frames are taken apart again.
+class Link {
+  public:
+    explicit Link(InstrumentBehaviour behaviour, const std::string& file = kFile)
+        : instrument_(
+              std::move(SimulatedInstrument::Create(file, std::move(behaviour), texts_).Value())),
+          connection_({instrument_, clock_, texts_,
+                       [this](const std::string& line) { Notes.push_back(line); }}) {}
+
+    // The payloads, behind their types, that answer a frame without any time passing.
+    std::vector<std::string> Answers(FrameType type, const std::string& payload) {
+        EXPECT_TRUE(connection_.Take({type, payload}).Ok());
+        return Due();
+    }
+    std::vector<std::string> Due() {
+        while (const auto frame = connection_.NextFrame()) decoder_.Append(*frame);
+        std::vector<std::string> frames;
+        for (;;) {
+            const auto frame = decoder_.Next();
+            EXPECT_TRUE(frame.Ok());
+            if (!frame.Value()) return frames;
+            frames.push_back(static_cast<char>(frame.Value()->Type) + frame.Value()->Payload);
+        }
+    }
+    // Connects and asks for the readings.
+    std::vector<std::string> Download() {
+        Answers(FrameType::kConnect, kAddress);
+        return Answers(FrameType::kData, "\0[OUTPUT JAN-05-2004 13:07:42"s);
+    }
+    SimulatedConnection* operator->() { return &connection_; }
+
+    ManualClock clock_;
+    std::vector<std::string> Notes;
+
+  private:
+    EnglishTexts texts_;
+    SimulatedInstrument instrument_;
+    SimulatedConnection connection_;
+    InfraredFrameDecoder decoder_;
+};
+
+// The stream that data frames carry, their control bytes taken off.
+std::string StreamOf(const std::vector<std::string>& frames) {
+    return std::accumulate(frames.begin(), frames.end(), ""s,
+                           [](const std::string& stream, const std::string& frame) {
+                               EXPECT_EQ(frame.substr(0, 2), "D\0"s);
+                               return stream + frame.substr(2);
+                           });
+}
+
+InstrumentBehaviour With(auto set) {
+    InstrumentBehaviour behaviour;
+    set(behaviour);
+    return behaviour;
+}
+
+TEST(SimulatedConnection, FaultsOfTheStream) {
+    using B = InstrumentBehaviour;
+    std::string filled = kStream;
+    for (const int at : {96, 64, 32}) {
+        if (at < static_cast<int>(kStream.size()))
+            filled.insert(static_cast<std::size_t>(at), 1, '\0');
+    }
+    std::string corrupt = kStream;
+    corrupt[16] = '@';
+    const struct {
+        const char* Name;
+        InstrumentBehaviour Behaviour;
+        std::string Stream;
+        bool HangsUp;
+        std::string LastNote;
+    } cases[] = {
+        {"none", {}, kStream, false, "sent 72 bytes"},
+        {"corrupt", With([](B& b) { b.Corrupt = 16; }), corrupt, false, "sent 72 bytes"},
+        {"drop", With([](B& b) { b.DropLine = 3; }),
+         kHead + kLine +
+             "\xA5"
+             "END DATA:      3\r\n",
+         false, "sent 71 bytes"},
+        {"count", With([](B& b) { b.Count = 12345678; }),
+         kHead + kLine +
+             "\xA5\xA5"
+             "END DATA:12345678\r\n",
+         false, "sent 73 bytes"},
+        {"filler", With([](B& b) { b.Filler = 32; }), filled, false, "sent 74 bytes"},
+        {"cut", With([](B& b) { b.CutAfter = 20; }), kStream.substr(0, 20), true,
+         "link cut after 20 bytes"},
+        {"cut at once", With([](B& b) { b.CutAfter = 0; }), "", true, "link cut after 0 bytes"},
+        {"cut beyond", With([](B& b) { b.CutAfter = 73; }), kStream, false, "sent 72 bytes"},
+        {"silent", With([](B& b) { b.SilentAfter = 7; }), kStream.substr(0, 7), false,
+         "silent after 7 bytes"},
+        {"cut before silent", With([](B& b) { b.SilentAfter = 7, b.CutAfter = 3; }),
+         kStream.substr(0, 3), true, "link cut after 3 bytes"},
+    };
+    for (const auto& [name, behaviour, stream, hangsUp, note] : cases) {
+        Link link(behaviour);
+        EXPECT_EQ(StreamOf(link.Download()), stream) << name;
+        EXPECT_EQ(link->HangsUp(), hangsUp) << name;
+        EXPECT_EQ(link.Notes.back(), note) << name;
+    }
+}
+
+TEST(SimulatedConnection, EveryBlockSizeAndEveryJoinCarryTheSameStream) {
+    std::string file = kHead;
+    for (int i = 0; i < 100; ++i) file += std::to_string(i * 7919) + " " + kLine;
+    file += "END DATA:    100\r\n";
+    Link plain({}, file);
+    const std::string stream = StreamOf(plain.Download());
+    for (std::size_t size = 1; size <= 101; ++size) {
+        const std::size_t block = size <= 100 ? size : 8191;
+        for (const int merge : {1, 3, 100000}) {
+            Link link(With([&](auto& b) { b.BlockSize = block, b.Merge = merge; }), file);
+            const auto frames = link.Download();
+            std::string joined;
+            for (const std::string& frame : frames) {
+                ASSERT_LE(frame.size() - 1, kMaxFramePayload);
+                // every block begins with its control byte, also within a frame
+                for (std::size_t at = 1; at < frame.size(); at += block + 1) {
+                    ASSERT_EQ(frame[at], '\0');
+                    joined += frame.substr(at + 1, block);
+                }
+            }
+            ASSERT_EQ(joined, stream) << block << " " << merge;
+            const std::size_t fit = std::min<std::size_t>(static_cast<std::size_t>(merge),
+                                                          kMaxFramePayload / (block + 1));
+            EXPECT_EQ(frames.size(), (stream.size() + fit * block - 1) / (fit * block));
+        }
+    }
+}
+
+TEST(SimulatedConnection, TheDeviceListIsWrittenAsSystemsWriteIt) {
+    const struct {
+        int Devices;
+        std::string Name, Last;
+    } cases[] = {{0, "", ""},
+                 {1, "VEK TK42", "VEK TK42"},
+                 {1, "Generic IrDA", "Generic IrDA"},
+                 {2, std::string(22, 'n'), "DEVICE 2"},
+                 {255, "x", "DEVICE 255"}};
+    for (const auto& [devices, name, last] : cases) {
+        Link link(
+            With([&, count = devices, text = name](auto& b) { b.Devices = count, b.Name = text; }));
+        const auto answers = link.Answers(FrameType::kDevices, "");
+        ASSERT_EQ(answers.size(), 1U);
+        const std::string list = answers[0].substr(1);
+        ASSERT_EQ(list.size(), 4 + 30U * static_cast<unsigned>(devices));
+        EXPECT_EQ(list.substr(0, 4), static_cast<char>(devices) + "\0\0\0"s);
+        if (devices == 0) continue;
+        EXPECT_EQ(list.substr(8, 23), name + std::string(23 - name.size(), '\0'));
+        EXPECT_EQ(list.substr(list.size() - 26), last + std::string(26 - last.size(), '\0'));
+        EXPECT_FALSE(link->IsSession());
+    }
+}
+
+TEST(SimulatedConnection, ConnectingAndCommandsThatMakeNoSense) {
+    Link link({});
+    EXPECT_THAT(link.Answers(FrameType::kData, "\0[OUTPUT x"s), IsEmpty());
+    EXPECT_EQ(link.Notes.back(), "command [OUTPUT x (not connected, no answer)");
+    EXPECT_THAT(link.Answers(FrameType::kConnect, kAddress), ElementsAre("C"));
+    EXPECT_EQ(link.Notes.back(), "connected to IrDA:IrCOMM of device 4B423432");
+    EXPECT_TRUE(link->IsSession());
+    for (const std::string& command : {"\0[output x"s, "\0"s, "\0[OUTPUT"s, "[CLEAR]"s}) {
+        EXPECT_THAT(link.Answers(FrameType::kData, command), IsEmpty()) << command;
+    }
+    EXPECT_FALSE(link->Take({FrameType::kConnect, kAddress.substr(1)}).Ok());
+
+    Link refusing(With([](auto& b) { b.Refuse = 0xFEDCBA98; }));
+    EXPECT_THAT(refusing.Answers(FrameType::kConnect, kAddress), ElementsAre("C\xFE\xDC\xBA\x98"));
+    EXPECT_TRUE(refusing->IsSession());
+    EXPECT_THAT(refusing.Answers(FrameType::kData, "\0[OUTPUT x"s), IsEmpty());
+}
+
+TEST(SimulatedConnection, ClearingEmptiesItOnlyWhenTheAnswerSaysSo) {
+    const std::string empty = kHead + "END DATA:      0\r\n";
+    const struct {
+        std::optional<std::string> Answer;
+        std::vector<std::string> Frames;
+        std::string StreamAfter;
+    } cases[] = {{"[OK]", {"D\0[OK]"s}, empty},
+                 {"so [OK] so", {"D\0so [OK] so"s}, empty},
+                 {"[ok]", {"D\0[ok]"s}, kStream},
+                 {std::nullopt, {}, kStream}};
+    for (const auto& [answer, frames, after] : cases) {
+        Link link(With([text = answer](auto& b) { b.ClearAnswer = text; }));
+        link.Download();
+        EXPECT_EQ(link.Answers(FrameType::kData, "\0[CLEAR]"s), frames);
+        EXPECT_EQ(StreamOf(link.Download()), after);
+    }
+    Link silent(With([](auto& b) { b.SilentAfter = 3; }));
+    silent.Download();
+    EXPECT_THAT(silent.Answers(FrameType::kData, "\0[CLEAR]"s), IsEmpty());
+    EXPECT_EQ(silent->NextDue(), std::nullopt);
+}
+
+TEST(SimulatedConnection, PausesByTheClock) {
+    Link link(With([](auto& b) { b.DelayMilliseconds = 40, b.BlockSize = 30; }));
+    EXPECT_EQ(link.Download().size(), 1U);
+    EXPECT_EQ(link->NextDue(), 40);
+    link.clock_.Milliseconds += 39;
+    EXPECT_EQ(link->NextDue(), 1);
+    EXPECT_THAT(link.Due(), IsEmpty());
+    // answers do not wait for the stream's pauses
+    EXPECT_EQ(link.Answers(FrameType::kDevices, "").size(), 1U);
+    link.clock_.Milliseconds += 1;
+    EXPECT_EQ(link.Due().size(), 1U);
+    link.clock_.Milliseconds += 1000;
+    EXPECT_EQ(StreamOf(link.Due()), kStream.substr(60));
+    EXPECT_EQ(link->NextDue(), std::nullopt);
+}
+
+TEST(SimulatedInstrument, FaultsThatTheFileHasNoRoomForAreRefused) {
+    const EnglishTexts texts;
+    const auto reason = [&texts](auto set) {
+        const auto made = SimulatedInstrument::Create(kFile, With(set), texts);
+        return made.Ok() ? "" : made.Why().Reason;
+    };
+    EXPECT_EQ(reason([](auto& b) { b.DropLine = 4; }),
+              "there is no data line 4 to drop; the file has 3");
+    EXPECT_EQ(reason([](auto& b) { b.Corrupt = 72; }),
+              "there is no byte 72 to corrupt; the stream has 72, counted from 0");
+    EXPECT_EQ(reason([](auto& b) { b.Corrupt = 71, b.DropLine = 3; }),
+              "there is no byte 71 to corrupt; the stream has 71, counted from 0");
+    EXPECT_EQ(reason([](auto& b) { b.Corrupt = 71; }), "");
+}
+
+}  // namespace
+}  // namespace brask
