@@ -90,6 +90,7 @@ void Print(Shell& shell, const CommandLine& line, const DownloadReport& report) 
 std::span<const OptionRow> DownloadOptionRows() { return kOptions; }
 
 ExitStatus RunDownload(Shell& shell, const CommandLine& line) {
+    // Of the two neither is the safe guess.
     if (line.Has("clear") && line.Has("no-clear")) {
         return WrongUsage(shell.Words.Find(kClearOrNot));
     }
@@ -97,6 +98,7 @@ ExitStatus RunDownload(Shell& shell, const CommandLine& line) {
     if (given && !ParseInstrumentAddress(*given)) {
         return WrongUsage(shell.Words.Fill(kNotALink, {"--instrument", *given}));
     }
+    // From here on things are made on disk; what is wrong with the words has been said.
     InstrumentRun run(shell, line);
     const std::string address = given.value_or(run.Options().Get("InstrumentAddress"));
     const auto parsed = ParseInstrumentAddress(address);
@@ -113,6 +115,7 @@ ExitStatus RunDownload(Shell& shell, const CommandLine& line) {
     } else {
         ShowFailure(shell, shell.Words.Fill(kNotALink, {"InstrumentAddress", address}));
     }
+    // In the window the closed dialog says enough; a script's user would see nothing at all.
     if (!report.Accepted && shell.User.Messages().empty()) {
         shell.User.ShowNotice(shell.Words.Fill(kNotAccepted, {run.LogPath()}));
     }

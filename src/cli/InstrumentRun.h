@@ -22,6 +22,7 @@ class InstrumentRun {
     const std::string& LogPath() { return session_.Log().Path(); }
 
   private:
+    // In the order in which one needs the other.
     Shell& shell_;
     CommandSession session_;
     CollectSession collect_;

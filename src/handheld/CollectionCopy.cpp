@@ -51,7 +51,7 @@ ReadingOutcome CollectionCopy::CopyAndPlace(HandheldFile& file, const std::strin
     auto started = parts_.Disk.Replace(target);
     if (!started.Ok()) return {kNotTaken, started.Why()};
     Sha256 sum;
-    const ReadingOutcome reading = ReadThrough(
+    ReadingOutcome reading = ReadThrough(
         file, parts_.Words,
         [&](std::string_view bytes) {
             sum.Add(bytes);
@@ -66,11 +66,11 @@ ReadingOutcome CollectionCopy::CopyAndPlace(HandheldFile& file, const std::strin
 }
 
 std::string CollectionCopy::Report(const ReadingOutcome& reading, const std::string& target) {
-    const std::string reason = parts_.TextOf(reading.Why);
+    std::string reason = parts_.TextOf(reading.Why);
     if (reading.How == kStopped) return reason;
     if (reading.How == kReadFailed) ShowMessage(parts_.Words.Fill(kReadError, {reason}));
     if (reading.How != kNotTaken) return reason;
-    const std::string text = parts_.Words.Fill(data_texts::kCannotWrite, {target, reason});
+    std::string text = parts_.Words.Fill(data_texts::kCannotWrite, {target, reason});
     parts_.User.ShowNotice(text);
     parts_.Log.WriteLog(text);
     return text;

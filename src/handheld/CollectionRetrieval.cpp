@@ -131,7 +131,10 @@ void CollectionRetrieval::Retrieve(std::size_t number) {
     const auto add = [&row](const std::string& text) {
         row.Status += (row.Status.empty() ? "" : "; ") + text;
     };
-    if (!deleted.Ok()) add(parts_.TextOf(deleted.Why()));
+    // a file that could not even be opened has the same reason twice
+    if (!deleted.Ok() && parts_.TextOf(deleted.Why()) != row.Status) {
+        add(parts_.TextOf(deleted.Why()));
+    }
     for (const std::string& note : deletion_.NotesOf(row.Name)) add(note);
     view_.ShowRow(number, row);
 }
@@ -150,10 +153,12 @@ RetrievalOutcome CollectionRetrieval::Finish() {
         session_.State = CollectState::kCancelled;
         return RetrievalOutcome::kStopped;
     }
-    if (copyFailed_) return RetrievalOutcome::kFailed;
-    if (deleteFailed_) return RetrievalOutcome::kNotDeleted;
-    session_.State = CollectState::kFinished;
-    return RetrievalOutcome::kDone;
+    if (!copyFailed_ && !deleteFailed_) {
+        session_.State = CollectState::kFinished;
+        return RetrievalOutcome::kDone;
+    }
+    view_.ShowStatus(parts_.Words.Find(kNotAllWell));
+    return copyFailed_ ? RetrievalOutcome::kFailed : RetrievalOutcome::kNotDeleted;
 }
 
 void CollectionRetrieval::ShowMessage(const std::string& text) {

@@ -11,6 +11,9 @@ inline constexpr auto kFinding = TextRow("handheld", "Finding Data Files on Pock
 inline constexpr auto kFound = TextRow("handheld", "%1 Data Files Found on PocketPC");
 inline constexpr auto kCopying = TextRow("handheld", "Copying %1 to PC");
 inline constexpr auto kDeleting = TextRow("handheld", "Deleting File %1 from PocketPC");
+// the last line of a run with errors
+inline constexpr auto kNotAllWell =
+    TextRow("handheld", "Not everything went well. The last column says what, and where data is.");
 
 // Messages. %1 is a path on the handheld, %2 the reason.
 inline constexpr auto kUnableToConnect = TextRow("handheld", "Unable to connect to PocketPC");

@@ -5,7 +5,7 @@
 namespace brask {
 
 std::string RateText(const Texts& texts, std::int64_t bytes, std::int64_t elapsedTenths) {
-    const std::string length = std::to_string(bytes);
+    std::string length = std::to_string(bytes);
     if (elapsedTenths <= 0) return length;
     // in tenths of a byte a second, rounded
     const std::int64_t rate = (bytes * 100 + elapsedTenths / 2) / elapsedTenths;

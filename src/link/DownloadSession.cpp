@@ -33,10 +33,12 @@ DownloadReport DownloadSession::Run() {
     data_.Session.State = CollectState::kRunning;
     begun_ = system_.Time.SteadyMilliseconds();
     const Ending ending = RunSteps();
-    // again when the steps have done so already, for the endings in between
+    // In one place for every ending, so that none can leave the link open or the main window
+    // waiting. Done again when the steps have done so already, for the endings in between
     transport_.CloseInstrument();
     transport_.StopSockets();
     if (ending == Ending::kCancelled || !report_.Accepted) data_.Session.ReceivedFile.clear();
+    // A cancel has put its own state there, which the main window may have seen already.
     if (data_.Session.State == CollectState::kRunning) {
         data_.Session.State =
             ending == Ending::kFinished ? CollectState::kFinished : CollectState::kCancelled;
@@ -56,6 +58,7 @@ DownloadSession::Ending DownloadSession::RunSteps() {
     transport_.ClearLibraryFailed();
     if (!StartLibrary() || !AwaitConnection()) return Ending::kCancelled;
     if (!Receive()) {
+        // A part of the readings may be all that is ever got of them.
         KeepStream();
         Log(kLogCancelled, {std::to_string(report_.Bytes)});
         return Ending::kCancelled;
@@ -78,6 +81,7 @@ bool DownloadSession::BeginRawFile() {
         return false;
     }
     report_.RawFile = created.Value();
+    // As it has always been: until the file is accepted this names the raw stream.
     data_.Session.ReceivedFile = report_.RawFile;
     return true;
 }
@@ -109,6 +113,7 @@ bool DownloadSession::AwaitConnection() {
         if (transport_.LibraryFailed() || !KeepGoing()) return false;
         if (outcome == ConnectOutcome::kConnected) break;
         if (outcome != ConnectOutcome::kNothing) return false;
+        // An attempt that took long enough by itself needs no rest.
         while (system_.Time.SteadyMilliseconds() < next) {
             transport_.Rest();
             if (!KeepGoing()) return false;
@@ -132,13 +137,17 @@ bool DownloadSession::Receive() {
         const ReceivedText received = transport_.ReceiveText();
         if (received.Text.empty()) {
             if (!received.Closed) continue;
+            // Nothing can come any more: without this the wait for the first byte would never end.
             if (idle.Waiting()) {
                 Log(kLogClosed, {});
                 return true;
             }
+            // After data the seconds of silence run as for a link that is only quiet; a closed one
+            // answers at once, and asking it again and again would keep the processor busy.
             transport_.Rest();
             continue;
         }
+        // the user put the instrument down and looks elsewhere
         if (idle.Waiting()) {
             for (int i = 0; i < kBeeps; ++i) system_.User.Beep();
         }
@@ -154,6 +163,7 @@ bool DownloadSession::Receive() {
 
 // False when the block could not be written.
 bool DownloadSession::TakeBlock(const std::string& text) {
+    // At once and block by block: a crash a moment later loses none of them.
     if (Status written = system_.Disk.Append(report_.RawFile, text); !written.Ok()) {
         ReportUnwritten(report_.RawFile, written.Why().Reason);
         return false;
@@ -177,6 +187,7 @@ void DownloadSession::AwaitLineFeed() {
 void DownloadSession::Finish() {
     Log(kLogReceived, {std::to_string(report_.Bytes), report_.RawFile});
     if (report_.Bytes == 0 || !KeepGoing()) return;
+    // Before expanding, which takes the previous line's place.
     KeepStream();
     Enter(DownloadStep::kVerifying);
     ReceivedFiling filing(system_, data_, [this] { return KeepGoing(); });
@@ -219,6 +230,8 @@ void DownloadSession::ClearInstrument() {
     Enter(DownloadStep::kClearing);
     SetLabel(0, system_.Words.Find(kClearing));
     if (transport_.SendText(kClearCommand) == 0) {
+        // The readings are safe, so this is no reason to give the file up; but they are still in
+        // the instrument.
         ShowText(kNoClearAnswer);
         return;
     }
@@ -230,12 +243,14 @@ void DownloadSession::AwaitClearAnswer() {
     while (!idle.RunOut()) {
         if (!KeepGoing()) return;
         ReceivedText received = transport_.ReceiveText();
+        // fillers and joined control bytes may stand in the middle of the answer
         std::erase(received.Text, '\0');
         if (!received.Text.empty()) {
             report_.Cleared = received.Text.find(kClearAnswer) != std::string::npos;
             ShowText(report_.Cleared ? kCleared : kNotCleared);
             return;
         }
+        // no answer can come any more
         if (received.Closed) break;
     }
     if (KeepGoing()) ShowText(kNoClearAnswer);

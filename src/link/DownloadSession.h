@@ -55,6 +55,7 @@ class DownloadSession {
     enum class Ending { kFinished, kCancelled };
 
     Ending RunSteps();
+    // The steps, in their order; false leads to the end of the run.
     bool BeginRawFile();
     bool StartLibrary();
     bool AwaitConnection();
@@ -66,24 +67,29 @@ class DownloadSession {
     bool SafeOnDisk();
     void ClearInstrument();
     void AwaitClearAnswer();
+    // Lets events run; false once the run is to end, for whatever reason. Every loop asks it.
     bool KeepGoing();
     bool GiveUpDue() const;
     void SetLabel(std::size_t index, const std::string& text);
     void SetPrompt(bool on);
     void ClearLabels();
     void Enter(DownloadStep step);
+    // Where no box is to be shown: status bar and log.
     void ReportUnwritten(const std::string& path, const std::string& reason);
     void Log(const TextRow& row, std::initializer_list<std::string_view> arguments);
     void ShowText(const TextRow& row);
 
+    // What was given to it,
     LinkSystem system_;
     LinkData data_;
     DownloadView& view_;
     DownloadOptions options_;
+    // and what it keeps.
     IrdaTransport transport_;
     DownloadDisplay display_;
     DownloadReport report_;
     EndOfData end_;
+    // stood once; from then on nothing is given up for taking long
     bool connected_ = false;
     std::int64_t begun_ = 0;  // steady milliseconds; what the elapsed time counts from
 };

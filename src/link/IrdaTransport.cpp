@@ -38,6 +38,7 @@ bool IrdaTransport::StartSockets() {
     const Status started = needs_.Sockets.Start();
     started_ = started.Ok();
     if (started_) return true;
+    // Kept besides being shown: the download's window has a place for it.
     statusText_ = Note(started.Why());
     libraryFailed_ = true;
     ShowError("WSAStartup", statusText_);
@@ -62,6 +63,7 @@ ConnectOutcome IrdaTransport::Attempt() {
     InfraredDeviceList devices{};
     if (!FindDevices(devices)) return ConnectOutcome::kNothing;
     const FoundDevice device = FindInstrument(devices);
+    // Silently: a telephone in range is no failure, and the instrument may come yet.
     if (!device.Accepted) return ConnectOutcome::kNothing;
     const InfraredAddress address = ServiceAddress(devices);
     const auto connected =
@@ -69,6 +71,8 @@ ConnectOutcome IrdaTransport::Attempt() {
     if (!connected) return ConnectOutcome::kNothing;
     if (!connected->Ok()) return ReportConnectFailure(connected->Why());
     statusText_ = needs_.Words.Fill(kConnectedTo, {Windows1252ToUtf8(device.Name)});
+    // At once, with the time of this moment: it is part of the command. A failure shows
+    // in LibraryFailed.
     SendText(OutputCommand(needs_.Time.Now()));
     return ConnectOutcome::kConnected;
 }
@@ -86,9 +90,12 @@ bool IrdaTransport::FindDevices(InfraredDeviceList& devices) {
 
 ConnectOutcome IrdaTransport::ReportConnectFailure(const Error& error) {
     std::string text = Note(error);
+    // no number, no text: the system has not said what it was
     if (error.Number == 0) text.clear();
     statusText_ = text;
     const std::string number = std::to_string(error.Number);
+    // What the system knows is worth another attempt; what it does not know has never gone away by
+    // itself.
     if (!ContainsIgnoringCase(text, "unknown")) {
         ShowError("Connect", needs_.Words.Fill(kConnectFailure, {text, number}));
         return ConnectOutcome::kNothing;
@@ -124,6 +131,7 @@ ReceivedText IrdaTransport::ReceiveText() {
     if (!received.Ok()) {
         statusText_ = Note(received.Why());
         needs_.User.ShowMessage({needs_.Words.Find(kReceiveFailureTitle), statusText_});
+        // closed first, since nothing runs any more once the program is ending
         CloseInstrument();
         needs_.User.EndProgram();
         return {};

@@ -17,6 +17,7 @@
 
 namespace brask {
 
+// The seams, but for the sockets: filing a stream needs none.
 struct LinkSystem {
     UserInterface& User;
     const Texts& Words;
@@ -25,7 +26,10 @@ struct LinkSystem {
     const Clock& Time;
 };
 
+// What outlives a download. The settings are asked at the moment of use, so that a change in the
+// middle of a download counts.
 struct LinkData {
+    // how it goes, for the main window that waits
     CollectSession& Session;
     DataDirectories& Directories;
     const Settings& Options;
@@ -33,6 +37,7 @@ struct LinkData {
     // One for the whole run of the program: what it expands next may repeat the last line of what
     // it expanded before.
     ReceivedFileExpander& Expander;
+    // where every stream and every replaced file is kept
     RecoveryFolder& Recovery;
 };
 

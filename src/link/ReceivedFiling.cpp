@@ -71,6 +71,7 @@ std::string ReceivedFiling::ExpandedPath(const std::string& rawPath) const {
 // The path of the expanded file; nothing when there is none.
 std::optional<std::string> ReceivedFiling::Expand(const std::string& rawPath) {
     std::string path = ExpandedPath(rawPath);
+    // kept for a second try, which must begin as the first one did
     const std::string previous = data_.Expander.PreviousLine();
     auto lines = data_.Expander.ExpandReceivedFile(rawPath, path, keepGoing_);
     if (!lines.Ok() && lines.Why().Number != ECANCELED) {
@@ -101,6 +102,8 @@ std::string ReceivedFiling::TargetFor(const std::string& expandedPath) const {
 }
 
 bool ReceivedFiling::Place(const std::string& expandedPath, const std::string& target) {
+    // Names have a resolution of seconds; an emptied instrument read again at once must not cost
+    // the readings that were just filed.
     if (system_.Disk.Exists(target)) {
         const auto sum = Sha256OfFile(system_.Disk, expandedPath);
         const auto kept = sum.Ok() ? data_.Recovery.KeepReplaced(target, sum.Value())
@@ -109,6 +112,8 @@ bool ReceivedFiling::Place(const std::string& expandedPath, const std::string& t
             const std::string line = system_.Words.Fill(kNotReplaced, {target, kept.Why().Reason});
             data_.Log.WriteLog(line);
             system_.User.ShowNotice(line);
+            // the stream itself stays, so it can be expanded again
+            static_cast<void>(system_.Disk.Remove(expandedPath).Ok());
             return false;
         }
     }

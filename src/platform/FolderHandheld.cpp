@@ -74,15 +74,16 @@ std::optional<std::string> FolderHandheld::Native(const std::string& path) const
         if (name.empty()) continue;
         // a name may come from the folder itself, where only this system's own rules hold
         if (name == "." || name == ".." || name.find('/') != std::string::npos) return std::nullopt;
-        std::string entry = name;
-        if (!files_.Exists(native + files_.Separator() + name)) {
+        std::string entry = native;
+        entry.append(1, files_.Separator()).append(name);
+        if (!files_.Exists(entry)) {
             const auto names = NamesIn(native, Kind::kAny);
             const auto other = std::find_if(names.begin(), names.end(), [&](const std::string& n) {
                 return SameIgnoringCase(n, name);
             });
-            if (other != names.end()) entry = *other;
+            if (other != names.end()) entry.replace(native.size() + 1, name.size(), *other);
         }
-        native += files_.Separator() + entry;
+        native = std::move(entry);
     }
     return native;
 }

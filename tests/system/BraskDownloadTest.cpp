@@ -1,6 +1,4 @@
-#include <cstdio>
 #include <filesystem>
-#include <map>
 #include <tuple>
 
 #include "ProgramRunner.h"
@@ -54,12 +52,10 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
     using Case = std::tuple<std::vector<std::string>, int, std::string, std::string>;
     const std::string refused = std::to_string(RefusedConnection());
     const std::string refusedText = NativeSystem().Information().ErrorText(RefusedConnection());
-    const std::string count = "File was not received correctly\r\nReceived ";
     const Case cases[] = {
         {{"--block", "1", "--name", " vek tk42 "}, 0, "", "accepted with 468"},
         {{"--block", "8191", "--merge", "3", "--filler", "7"}, 0, "", "accepted with 468"},
-        {{"--drop-line", "7"}, 1, count + "467 lines\r\nExpected 468 Lines", ""},
-        {{"--count", "469"}, 1, count + "468 lines\r\nExpected 469 Lines", ""},
+        {{"--drop-line", "7"}, 1, "Received 467 lines\r\nExpected 468 Lines", ""},
         {{"--silent-after", "700"}, 1, "", "no END DATA: line"},
         {{"--cut-after", "0"}, 1, "", "closed before the first byte"},
         {{"--refuse", refused},
@@ -69,7 +65,6 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
         {{"--refuse", "4711"}, 1, "Socket Connect Error is Unknown\r\nError=4711", ""},
         {{"--no-clear-answer"}, 0, "Clear Data Acknowledge Not Received!", ""},
         {{"--clear-answer", "[NO]"}, 0, "Talvex© K42 did not clear data", ""}};
-    std::map<int, int> outcomes;
     for (const auto& [options, status, message, logged] : cases) {
         std::vector<std::string> all{"--file", kApril};
         all.insert(all.end(), options.begin(), options.end());
@@ -83,10 +78,8 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
         }
         EXPECT_NE(Log().find(logged), std::string::npos) << Log();
         EXPECT_FALSE(done["cleared"].GetBool());
-        ++outcomes[status];
         std::filesystem::remove(done["raw_file"].GetString());
     }
-    for (const auto& [status, number] : outcomes) std::printf("%d x exit %d\n", number, status);
 }
 
 TEST_F(BraskDownload, GivesUpOrIsNotStarted) {

@@ -222,14 +222,18 @@ void DisplayPeriodPanel::cmbDisplayDayStart_Click(int day) {
     parts_.Options.Save("StartViewDayOn", std::to_string(day));
     if (day > cmbDisplayDayEnd->currentIndex()) {
         cmbDisplayDayEnd->setCurrentIndex(day);
-        parts_.Options.Save("EndViewDayOn", FromQt(cmbDisplayDayEnd->currentText()));
+        StoreLastDay();
     }
     CheckInput();
 }
 
 void DisplayPeriodPanel::cmbDisplayDayEnd_Click(int /*day*/) {
-    parts_.Options.Save("EndViewDayOn", FromQt(cmbDisplayDayEnd->currentText()));
+    StoreLastDay();
     CheckInput();
+}
+
+void DisplayPeriodPanel::StoreLastDay() {
+    parts_.Options.Save("EndViewDayOn", FromQt(cmbDisplayDayEnd->currentText()));
 }
 
 void DisplayPeriodPanel::cmdSetDisplayPeriod_Click() {

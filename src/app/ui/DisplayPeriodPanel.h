@@ -39,6 +39,9 @@ class DisplayPeriodPanel final : public QGroupBox {
     void ShowPlot(GraphType layout, int startWeekOn);
     // What is in view now.
     void ShowVisibleRange(const QString& text);
+    // Stores the day that the list shows. Needed when another first day of the week has given the
+    // same place in the list another name.
+    void StoreLastDay();
     // Chooses an option as a click on its button would.
     void Choose(PeriodOption option);
 

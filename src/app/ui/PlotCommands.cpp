@@ -235,6 +235,7 @@ void PlotCommands::optStartWeek_Click(int day) {
     if (parts_.Data.Options.Loading()) return;
     parts_.Registry.Guard("optStartWeek", [&] { parts_.Current.SetStartWeekOn(day); });
     ShowPlot();
+    screens_->Period.StoreLastDay();
 }
 
 }  // namespace brask

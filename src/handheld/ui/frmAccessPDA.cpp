@@ -85,7 +85,13 @@ void frmAccessPDA::RunEnded(bool stay) {
     phase_ = Phase::kEnded;
     cmdCancel->setText(ToQt(texts_, kClose));
     cmdCancel->setEnabled(true);
-    if (!stay || isHidden()) Finish();
+    if (!stay || isHidden()) {
+        Finish();
+        return;
+    }
+    // a message that was shown meanwhile has left the main window in front
+    raise();
+    activateWindow();
 }
 
 void frmAccessPDA::cmdCancel_Click() { reject(); }
@@ -119,23 +125,28 @@ void frmAccessPDA::ShowStatus(const std::string& text) { lblStatus->setText(ToQt
 
 void frmAccessPDA::ShowRows(const std::vector<RetrievalRow>& rows) {
     MSFlexGrid1->setRowCount(static_cast<int>(rows.size()));
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        SetCell(static_cast<int>(i), kName, ToQt(rows[i].Name));
-    }
+    for (std::size_t i = 0; i < rows.size(); ++i) FillRow(static_cast<int>(i), rows[i]);
 }
 
 void frmAccessPDA::ShowRow(std::size_t number, const RetrievalRow& row) {
     const int line = static_cast<int>(number);
-    SetCell(line, kDownloaded, ToQt(texts_, row.Downloaded ? kYes : kNo));
-    SetCell(line, kDeleted, ToQt(texts_, row.Deleted ? kYes : kNo));
-    SetCell(line, kStatus, ToQt(row.Status));
+    FillRow(line, row);
+    // a status may take several lines: it names paths
+    MSFlexGrid1->resizeRowToContents(line);
     // also scrolls there
     MSFlexGrid1->setCurrentCell(line, kName);
 }
 
+void frmAccessPDA::FillRow(int line, const RetrievalRow& row) {
+    SetCell(line, kName, ToQt(row.Name));
+    SetCell(line, kDownloaded, ToQt(texts_, row.Downloaded ? kYes : kNo));
+    SetCell(line, kDeleted, ToQt(texts_, row.Deleted ? kYes : kNo));
+    SetCell(line, kStatus, ToQt(row.Status));
+}
+
 void frmAccessPDA::SetCell(int row, int column, const QString& text) {
     auto* cell = new QTableWidgetItem(text);
-    // a status is longer than its column: it tells two paths
+    // a name may be longer than its column
     cell->setToolTip(text);
     MSFlexGrid1->setItem(row, column, cell);
 }

@@ -46,6 +46,7 @@ class frmAccessPDA final : public QDialog, public RetrievalView {
     enum class Phase { kNotBegun, kRunning, kEnded };
 
     void BuildGrid();
+    void FillRow(int line, const RetrievalRow& row);
     void SetCell(int row, int column, const QString& text);
     void TimerScreenDisplayed_Timer();
     void cmdCancel_Click();

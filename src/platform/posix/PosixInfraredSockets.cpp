@@ -34,6 +34,7 @@ class KernelInfraredSocket final : public InfraredSocket {
     }
 
     Result<bool> Connect(const InfraredAddress& address) override {
+        // Started once; the later calls only look how it came out.
         if (!connecting_) {
             const posix::KernelAddress kernel = posix::AddressForKernel(address);
             connecting_ = true;
@@ -64,6 +65,7 @@ class KernelInfraredSocket final : public InfraredSocket {
         if (length < 0) return OnlyBusy(errno) ? Result<ReceivedBlock>(block) : LastError();
         block.Closed = length == 0;
         bytes.resize(static_cast<std::size_t>(length));
+        // then more of the same block may wait
         const bool full = bytes.size() == kLongestInfraredBlock;
         block.Bytes = blocks_.Next(std::move(bytes), full);
         return block;
@@ -93,6 +95,8 @@ class KernelInfraredSocket final : public InfraredSocket {
 }  // namespace
 
 Result<std::unique_ptr<InfraredSocket>> PosixInfraredSockets::Open() {
+    // The probe: kernels that have dropped infrared do not know the family. No waiting, since the
+    // loop around it has a user to answer.
     Handle socket(::socket(posix::kInfraredFamily, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
     if (!socket.Open()) return LastError();
     std::unique_ptr<InfraredSocket> open =

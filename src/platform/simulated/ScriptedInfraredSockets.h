@@ -22,6 +22,7 @@ class ScriptedInfraredSockets final : public InfraredSockets {
         int Error = 0;
     };
 
+    // What these operations fail with; 0 for none. Numbers of the system's.
     int StartError = 0;
     int OpenError = 0;
     int ListError = 0;
@@ -32,6 +33,7 @@ class ScriptedInfraredSockets final : public InfraredSockets {
     // How often listing and connecting say that they are not done yet; -1 for ever.
     int ListWaits = 0;
     int ConnectWaits = 0;
+    // What Writable says.
     bool CanWrite = true;
     InfraredDeviceList Devices{};
     // Taken in turn by receives; when used up they wait in vain.
@@ -40,9 +42,10 @@ class ScriptedInfraredSockets final : public InfraredSockets {
     std::function<void(const std::string& bytes)> OnSend = [](const std::string&) {};
 
     // What happened.
-    std::vector<std::string> Sent;
+    std::vector<std::string> Sent;       // control bytes included
     std::vector<std::int64_t> Attempts;  // when each socket was opened
     std::vector<InfraredAddress> ConnectedTo;
+    // What is left open; 0 and false after a download that has cleaned up.
     int OpenSockets = 0;
     bool Started = false;
 
@@ -61,6 +64,7 @@ class ScriptedInfraredSockets final : public InfraredSockets {
     void Rest() override { clock_.Milliseconds += kInfraredWait; }
 
   private:
+    // Plays the script; any number of them may exist in turn.
     class Socket final : public InfraredSocket {
       public:
         explicit Socket(ScriptedInfraredSockets& script) : script_(script) {

@@ -32,12 +32,14 @@ class TcpInfraredSocket final : public InfraredSocket {
             stream_ = std::move(begun.Value());
         }
         const auto connected = stream_->Connected(kInfraredWait);
+        // nobody listens: out of range, as an instrument that is switched off
         if (!connected.Ok()) return true;
         if (!connected.Value()) return false;
         const auto answer = Ask(FrameType::kDevices, {});
         if (!answer.Ok() && answer.Why().Number == numbers_.Closed) return true;
         if (!answer.Ok()) return answer.Why();
         if (!answer.Value()) return false;
+        // cut as a system would cut it that was given a buffer of this size
         const std::string& list = *answer.Value();
         std::copy_n(list.begin(), std::min(list.size(), devices.size()), devices.begin());
         return true;
@@ -72,6 +74,7 @@ class TcpInfraredSocket final : public InfraredSocket {
         ReceivedBlock block;
         block.Closed = incoming.Value().Closed;
         if (auto& frame = incoming.Value().Frame) {
+            // answers to questions that nobody asked
             if (frame->Type != FrameType::kData) return BadFrame("a frame out of turn");
             block.Bytes = blocks_.Next(std::move(frame->Payload), false);
         }
@@ -113,6 +116,7 @@ class TcpInfraredSocket final : public InfraredSocket {
         if (!stream_) return Error{numbers_.Closed, "no link"};
         if (Status pushed = Push(); !pushed.Ok()) return pushed.Why();
         Incoming incoming;
+        // What has arrived comes first: a closed link still has all that was sent before.
         auto frame = decoder_.Next();
         if (frame.Ok() && !frame.Value()) {
             auto got = stream_->Receive(kReceiveSize, kInfraredWait);

@@ -44,6 +44,7 @@ class WinsockInfraredSocket final : public InfraredSocket {
     }
 
     Result<bool> Connect(const InfraredAddress& address) override {
+        // Started once; the later calls only look how it came out.
         if (!connecting_) {
             std::array<char, kAddressLength> bytes{};
             std::copy(address.begin(), address.end(), bytes.begin());
@@ -90,6 +91,7 @@ class WinsockInfraredSocket final : public InfraredSocket {
         }
         block.Closed = length == 0;
         bytes.resize(static_cast<std::size_t>(length));
+        // then more of the same block may wait
         const bool full = bytes.size() == kLongestInfraredBlock;
         block.Bytes = blocks_.Next(std::move(bytes), full);
         return block;
@@ -136,6 +138,7 @@ Result<std::unique_ptr<InfraredSocket>> WindowsInfraredSockets::Open() {
     const SOCKET socket = ::socket(kInfraredFamily, SOCK_STREAM, 0);
     if (socket == INVALID_SOCKET) return LastError();
     std::unique_ptr<InfraredSocket> open = std::make_unique<WinsockInfraredSocket>(socket);
+    // No waiting within Winsock, since the loop around it has a user to answer.
     u_long on = 1;
     if (::ioctlsocket(socket, static_cast<long>(FIONBIO), &on) != 0) return LastError();
     return open;

@@ -81,13 +81,12 @@ DynaPlot::DynaPlot(const Chart& chart, const UserLocale& locale, QWidget* parent
         axis->setLabelPadding(6);
     }
     addLayer(QStringLiteral("over"));
-    overlay_ = layer(QStringLiteral("over"));
-    // with a picture of its own: it changes with every step of the cursor, the curves do not
-    overlay_->setMode(QCPLayer::lmBuffered);
+    overLayer_ = layer(QStringLiteral("over"));
+    overLayer_->setVisible(false);
     AddTexts();
     // the plot owns both from here on
     new CurvePlottable(chart, xAxis, yAxis, yAxis2);
-    new PlotOverlay(chart, *this, overlay_->name());
+    overlay_ = new PlotOverlay(chart, *this, overLayer_->name());
 }
 
 void DynaPlot::AddTexts() {
@@ -102,7 +101,7 @@ void DynaPlot::AddTexts() {
     rows.addElement(0, 0, title_);
     rows.addElement(1, 0, caption_);
     rows.addElement(3, 0, readout_);
-    readout_->setLayer(overlay_);
+    readout_->setLayer(overLayer_);
 }
 
 void DynaPlot::ShowChart() {
@@ -113,18 +112,58 @@ void DynaPlot::ShowChart() {
     // Drawn before this returns when it can be seen: the readings may go away right after, and the
     // old curves with them. A hidden plot only takes note, so that several changes cost one
     // drawing.
-    replot(isVisible() ? rpRefreshHint : rpQueuedReplot);
+    Outdate();
+    if (isVisible()) DrawFrame();
 }
 
 void DynaPlot::ShowView() {
     ShowReadout();
     if (chart_.View() == shownView_ && chart_.Background.PictureShown == shownPicture_) {
-        overlay_->replot();
+        UpdateOverlay();
         return;
     }
     if (chart_.Background.PictureShown != shownPicture_) ShowBackground();
     ShowRanges();
-    replot(rpQueuedReplot);
+    Outdate();
+}
+
+void DynaPlot::Outdate() {
+    outdated_ = true;
+    update();
+}
+
+void DynaPlot::UpdateOverlay() { update(overlaid_ | overlay_->Extent() | readout_->rect()); }
+
+void DynaPlot::DrawFrame() {
+    const double ratio = devicePixelRatioF();
+    const QSize pixels = size() * ratio;
+    if (frame_.size() != pixels) frame_ = QImage(pixels, QImage::Format_RGB32);
+    frame_.setDevicePixelRatio(ratio);
+    setBufferDevicePixelRatio(ratio);
+    frame_.fill(ToColor(chart_.Background.Chart));
+    QCPPainter painter(&frame_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // the library's own way of drawing is not taken: it keeps pictures with an alpha channel, which
+    // take three times as long to put together as the curves to draw
+    draw(&painter);
+    outdated_ = false;
+}
+
+void DynaPlot::paintEvent(QPaintEvent* /*event*/) {
+    // a window that was moved to another screen may have other pixels there
+    if (outdated_ || frame_.devicePixelRatio() != devicePixelRatioF()) DrawFrame();
+    QCPPainter painter(this);
+    painter.drawImage(QPointF(0, 0), frame_);
+    overlaid_ = overlay_->Extent();
+    overlay_->Paint(painter);
+    painter.setFont(readout_->font());
+    painter.setPen(readout_->textColor());
+    painter.drawText(readout_->rect(), readout_->textFlags(), readout_->text());
+}
+
+void DynaPlot::resizeEvent(QResizeEvent* /*event*/) {
+    setViewport(rect());
+    Outdate();
 }
 
 void DynaPlot::ShowReadout() {
@@ -142,12 +181,12 @@ ChartPlace DynaPlot::PlaceAt(const QPointF& pixels) const {
 
 void DynaPlot::focusInEvent(QFocusEvent* event) {
     QCustomPlot::focusInEvent(event);
-    overlay_->replot();
+    update();
 }
 
 void DynaPlot::focusOutEvent(QFocusEvent* event) {
     QCustomPlot::focusOutEvent(event);
-    overlay_->replot();
+    update();
 }
 
 QImage DynaPlot::Picture(QSize size) {
@@ -156,7 +195,11 @@ QImage DynaPlot::Picture(QSize size) {
     // pixels of a new image hold anything at all
     picture.fill(ToColor(chart_.Background.Chart));
     QCPPainter painter(&picture);
+    overLayer_->setVisible(true);
     toPainter(&painter, size.width(), size.height());
+    overLayer_->setVisible(false);
+    // the axes stand where the picture had them
+    updateLayout();
     // before the image is handed out: while painted on it cannot be shared
     painter.end();
     return picture;

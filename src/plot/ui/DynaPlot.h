@@ -13,8 +13,12 @@
 
 namespace brask {
 
+class PlotOverlay;
+
 // A view of one Chart. It holds nothing of the chart but what the drawing library needs to know
-// before it draws: ranges, colours and texts. The curves are read while painting.
+// before it draws: ranges, colours and texts. The curves are read while painting. What the library
+// draws is kept as one picture; cursor and readout are painted over it, so that they can move
+// without drawing anything else again.
 class DynaPlot : public QCustomPlot {
     Q_OBJECT
 
@@ -39,6 +43,8 @@ class DynaPlot : public QCustomPlot {
     QImage Picture(QSize size);
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     // The frame that shows the focus comes and goes.
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -46,6 +52,12 @@ class DynaPlot : public QCustomPlot {
   private:
     // Rows above and below the axes: title and caption on top, the readout at the bottom.
     void AddTexts();
+    // Draws everything but the overlay into frame_.
+    void DrawFrame();
+    // frame_ is of no use any more; the next painting draws it again.
+    void Outdate();
+    // Paints again where the overlay was and where it is now.
+    void UpdateOverlay();
     // The parts of ShowChart. They only set what differs between charts; what never changes is set
     // once by the constructor.
     void ShowTitle();
@@ -66,7 +78,12 @@ class DynaPlot : public QCustomPlot {
     QCPTextElement* title_ = nullptr;  // these three belong to the plot's layout
     QCPTextElement* caption_ = nullptr;
     QCPTextElement* readout_ = nullptr;
-    QCPLayer* overlay_ = nullptr;  // with the readout and what lies over the curves
+    PlotOverlay* overlay_ = nullptr;
+    // With the overlay and the readout; hidden but for pictures, since painting does their work.
+    QCPLayer* overLayer_ = nullptr;
+    QImage frame_;          // without an alpha channel: putting it on the screen is a plain copy
+    bool outdated_ = true;  // frame_ does not show the chart as it is
+    QRegion overlaid_;      // where the overlay was painted last
     ViewRecord shownView_;
     bool shownPicture_ = true;
     QPixmap picture_;  // the background, as read from pictureFile_

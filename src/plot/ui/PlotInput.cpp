@@ -195,12 +195,17 @@ void PlotInput::WheelZoom(const QWheelEvent& event) {
     const ChartPlace place = plot_.PlaceAt(event.position());
     ChartActions::ZoomAxes axes{true, requests_.ScalesY(), requests_.ScalesY()};
     // on an axis the wheel scales that axis alone
+    if (place.Y > 1) axes = {true, false, false};
     if (place.X < 0) axes = {false, true, false};
     if (place.X > 1) axes = {false, false, true};
     const quint64 now = event.timestamp();
-    const bool continues = lastWheel_ != 0 && now - lastWheel_ < kBurstMilliseconds;
-    lastWheel_ = now;
+    const ViewRecord shown = chart_.View();
+    // any other move in between, such as taking the zoom back, ends a burst
+    const bool continues = burst_ && now - burst_->At < kBurstMilliseconds && burst_->View == shown;
     actions_.ZoomAbout(place, std::pow(kZoomPerStep, steps), axes, continues);
+    burst_.reset();
+    // a step without effect has left nothing behind that the next one could go on from
+    if (continues || chart_.View() != shown) burst_ = Burst{now, chart_.View()};
 }
 
 void PlotInput::PanBy(const QPointF& pixels) {

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <functional>
+#include <optional>
 
 #include "plot/ChartActions.h"
 #include "plot/ui/DynaPlot.h"
@@ -66,7 +67,12 @@ class PlotInput final : public QObject {
     Drag drag_ = Drag::kNone;
     QPointF pressed_;  // where the button went down, then where the pan has come to
     bool spaceHeld_ = false;
-    quint64 lastWheel_ = 0;  // time stamp of the last step, milliseconds; 0 for none
+    // The last step of a turning wheel.
+    struct Burst {
+        quint64 At = 0;   // its time stamp, milliseconds
+        ViewRecord View;  // that it has left on the screen
+    };
+    std::optional<Burst> burst_;
 };
 
 }  // namespace brask

@@ -31,11 +31,35 @@ void PlotOverlay::draw(QCPPainter* painter) {
     DrawCursor(*painter);
     DrawRectangle(*painter);
     if (chart_.LegendShown) DrawLegend(*painter);
-    if (plot_.hasFocus()) {
-        painter->setPen(QPen(plot_.palette().color(QPalette::Highlight), 1, Qt::DotLine));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(clipRect().adjusted(2, 2, -3, -3));
-    }
+}
+
+void PlotOverlay::Paint(QCPPainter& painter) {
+    painter.save();
+    painter.setClipRect(clipRect());
+    draw(&painter);
+    if (plot_.hasFocus()) DrawFocus(painter);
+    painter.restore();
+}
+
+void PlotOverlay::DrawFocus(QCPPainter& painter) const {
+    painter.setPen(QPen(plot_.palette().color(QPalette::Highlight), 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(clipRect().adjusted(2, 2, -3, -3));
+}
+
+QRegion PlotOverlay::Extent() const {
+    const QRect axes = clipRect();
+    // what is seldom there is not worth being told apart
+    if (chart_.LegendShown || chart_.Rectangle) return axes;
+    const auto place = chart_.Cursor.Shown ? CursorPlace() : std::nullopt;
+    if (!place) return {};
+    // a line's width on each side, and what smoothing adds
+    const int radius = static_cast<int>(kCursorRadius) + 3;
+    const QPoint at = place->toPoint();
+    QRegion covered(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius);
+    covered |= QRect(at.x() - 2, axes.top(), 4, axes.height());
+    covered |= QRect(axes.left(), at.y() - 2, axes.width(), 4);
+    return covered & axes;
 }
 
 std::optional<QPointF> PlotOverlay::CursorPlace() const {

@@ -53,9 +53,7 @@ TEST(CollectionRetrieval, SecondOfTwoEqualNamesIsKeptBeforeTheFirstOnesDeletionT
     run.Run();
     const std::string kept = "A.csv was kept as " + kKept + "A (2).csv";
     EXPECT_THAT(run.Grid(), ElementsAre("A.csv Yes Yes " + kept,
-                                        "A.csv Yes No No such file or directory; "
-                                        "No such file or directory; " +
-                                            kept));
+                                        "A.csv Yes No No such file or directory; " + kept));
     EXPECT_THAT(run.User.ShownTexts(), ElementsAre("Unable to open WinCE file" + Ppc("A.csv") +
                                                    "\r\nError: No such file or directory"));
     EXPECT_EQ(run.Disk.Contents[OnPc("A.csv")], "first");

@@ -153,12 +153,17 @@ TEST_F(DownloadFaults, EveryDeviceCountAndConnectError) {
         const std::string text = download.Information.ErrorText(error);
         EXPECT_EQ(Outcome(download), text.empty() ? "cancelled" : "accepted");
         ASSERT_EQ(download.User.Shown.size(), 1U);
+        // with the places of the message filled in
+        const EnglishTexts words;
         const std::string number = std::to_string(error);
+        const TextRow unknown("",
+                              "Socket Connect Error is Unknown\r\nError=%1\r\n"
+                              "Connect to K42 is aborted");
+        const TextRow known("",
+                            "Error Description:%2\r\nError Number:%1\r\n[Connect]\r\n"
+                            "(Cancel Ends Program)");
         EXPECT_EQ(download.User.ShownTexts()[0],
-                  text.empty() ? "Socket Connect Error is Unknown\r\nError=" + number +
-                                     "\r\nConnect to K42 is aborted"
-                               : "Error Description:" + text + "\r\nError Number:" + number +
-                                     "\r\n[Connect]\r\n(Cancel Ends Program)");
+                  words.Fill(text.empty() ? unknown : known, {number, text}));
     }
     EXPECT_GT(Outcomes().at("accepted"), 100);
 }

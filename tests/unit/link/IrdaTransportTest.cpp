@@ -12,12 +12,6 @@ struct Transport {
     bool Going = true;
     IrdaTransport Irda{{Parts.Link, Parts.User, Parts.Words, Parts.Information, Parts.Clock,
                         [this] { return Going; }}};
-
-    std::vector<std::string> Titles() const {
-        std::vector<std::string> titles;
-        for (const Message& message : Parts.User.Shown) titles.push_back(message.Title);
-        return titles;
-    }
 };
 
 TEST(IrdaTransport, ConnectsToTheFirstDevice) {
@@ -60,50 +54,37 @@ TEST(IrdaTransport, DeviceNames) {
 TEST(IrdaTransport, FailuresAreTold) {
     using Link = ScriptedInfraredSockets;
     const std::string system = FixedSystemInformation().ErrorText(5);
-    const auto dialog = [&system](const std::string& operation) {
-        return "Error Description:" + system + "\r\n[" + operation + "]\r\n(Cancel Ends Program)";
-    };
-    // what fails, what is done; the title, the text, whether the library counts as failed
-    using Case = std::tuple<int Link::*, void (*)(Transport&), std::string, std::string, bool>;
+    // what fails; the title, what the connect comes to, whether the library counts as failed
+    using Case = std::tuple<int Link::*, std::string, ConnectOutcome, bool>;
     const Case cases[] = {
-        {&Link::StartError, [](Transport& t) { EXPECT_FALSE(t.Irda.StartSockets()); },
-         "WSAStartup Error", dialog("WSAStartup"), true},
-        {&Link::OpenError,
-         [](Transport& t) { EXPECT_EQ(t.Irda.ConnectInstrument(), ConnectOutcome::kNotSupported); },
-         "IRDA Sockets Not Supported",
-         "The IRDA Dongle or the Built-In IRDA Device on this PC\r\n"
-         "does not support IRDA Sockets. Please remove the IRDA device from\r\n"
-         "your system drivers (use control-panel) and try re-installing the\r\n"
-         "drivers and the IRDA dongle",
-         false},
-        {&Link::ListError,
-         [](Transport& t) { EXPECT_EQ(t.Irda.ConnectInstrument(), ConnectOutcome::kNothing); },
-         "GetSockOpt Error", dialog("GetSockOpt"), true},
-        {&Link::SendError,
-         [](Transport& t) { EXPECT_EQ(t.Irda.ConnectInstrument(), ConnectOutcome::kConnected); },
-         "SendData Error", system, true},
-        {&Link::CloseError,
-         [](Transport& t) {
-             t.Irda.ConnectInstrument();
-             t.Irda.CloseInstrument();
-             t.Irda.CloseInstrument();
-         },
-         "CloseSocket Error", dialog("CloseSocket"), false}};
-    for (const auto& [fault, act, title, text, libraryFailed] : cases) {
-        Transport transport;
-        transport.Parts.Link.*fault = 5;
-        transport.Parts.User.Answers = {true};
-        act(transport);
-        EXPECT_EQ(transport.Titles(), std::vector{title});
-        EXPECT_EQ(transport.Parts.User.ShownTexts(), std::vector{text});
-        EXPECT_EQ(transport.Irda.LibraryFailed(), libraryFailed) << title;
-        EXPECT_FALSE(transport.Parts.User.Ended());
+        {&Link::StartError, "WSAStartup Error", ConnectOutcome::kConnected, true},
+        {&Link::OpenError, "IRDA Sockets Not Supported", ConnectOutcome::kNotSupported, false},
+        {&Link::ListError, "GetSockOpt Error", ConnectOutcome::kNothing, true},
+        {&Link::SendError, "SendData Error", ConnectOutcome::kConnected, true},
+        {&Link::CloseError, "CloseSocket Error", ConnectOutcome::kConnected, false}};
+    for (const auto& [fault, title, outcome, libraryFailed] : cases) {
+        for (const bool retry : {true, false}) {
+            Transport transport;
+            transport.Parts.Link.*fault = 5;
+            transport.Parts.User.Answers = {retry};
+            EXPECT_EQ(transport.Irda.StartSockets(), fault != &Link::StartError);
+            EXPECT_EQ(transport.Irda.ConnectInstrument(), outcome);
+            transport.Irda.CloseInstrument();
+            transport.Irda.CloseInstrument();
+            ASSERT_EQ(transport.Parts.User.Shown.size(), 1U) << title;
+            const Message& shown = transport.Parts.User.Shown[0];
+            EXPECT_EQ(shown.Title, title);
+            const bool dialog = title.ends_with(" Error") && title != "SendData Error";
+            const std::string operation = title.substr(0, title.find(' '));
+            const std::string text = dialog ? "Error Description:" + system + "\r\n[" + operation +
+                                                  "]\r\n(Cancel Ends Program)"
+                                            : system;
+            EXPECT_TRUE(shown.Text == text || fault == &Link::OpenError) << shown.Text;
+            EXPECT_EQ(transport.Irda.LibraryFailed(), libraryFailed) << title;
+            EXPECT_EQ(transport.Parts.User.Ended(), dialog && !retry);
+            EXPECT_EQ(transport.Parts.Link.OpenSockets, 0);
+        }
     }
-    Transport cancelled;
-    cancelled.Parts.Link.ListError = 5;
-    cancelled.Irda.ConnectInstrument();
-    EXPECT_TRUE(cancelled.Parts.User.Ended());
-    EXPECT_EQ(cancelled.Parts.Link.OpenSockets, 0);
 }
 
 TEST(IrdaTransport, AnEndlessWaitEndsWithTheSession) {
@@ -129,7 +110,7 @@ TEST(IrdaTransport, UrgentTextsAndOneByteReceives) {
     transport.Parts.Link.CanWrite = true;
     transport.Parts.Link.SendError = 5;
     EXPECT_EQ(transport.Irda.SendUrgent("abc"), -1);
-    EXPECT_EQ(transport.Titles(), std::vector<std::string>{"Send Error"});
+    EXPECT_EQ(transport.Parts.User.Shown.at(0).Title, "Send Error");
 
     Transport receiving;
     receiving.Irda.ConnectInstrument();

@@ -83,12 +83,13 @@ TEST(ReceivedFiling, ReplacesAFileOfThatNameAndKeepsItsContent) {
     EXPECT_EQ(download.Recovery.List().size(), 1U) << "the same content again";
 }
 
-TEST(ReceivedFiling, WhereTheDirectoryIsGoneTheUserIsToldWhereTheFileIs) {
+TEST(ReceivedFiling, WhatCannotBeKeptIsNotReplaced) {
     Download download;
-    download.Disk.Directories.insert(kFiledName);  // nothing can take this name
-    const FiledDownload filed = File(download, kStream);
-    EXPECT_FALSE(filed.Accepted);
-    EXPECT_EQ(filed.File, "");
+    download.Disk.Directories.insert(kFiledName);
+    const std::size_t files = download.Disk.Contents.size();
+    EXPECT_EQ(File(download, kStream).File, "");
+    EXPECT_EQ(download.User.Notices.size(), 1U);
+    EXPECT_EQ(download.Disk.Contents.size(), files + 2) << "the stream and the log";
 }
 
 }  // namespace

@@ -29,7 +29,8 @@ class Searches : public testing::Test {
         std::vector<double> x;
         std::vector<double> y;
         for (int i = 0; i < readings; ++i) {
-            const double time = back > 0 ? i - i / back * 150.0 : std::floor(Random(0, readings));
+            const int rewound = back > 0 ? i - i / back * 150 : 0;
+            const double time = back > 0 ? rewound : std::floor(Random(0, readings));
             x.push_back(Random(0, 1) < 0.95 ? time : odd[i % 3]);
             y.push_back(Random(0, 1) < 0.95 ? std::floor(Random(0, 500)) : odd[i % 3]);
         }
