@@ -31,7 +31,7 @@ TEST(DisplayPeriod, BoxesGiveAWindowOrSayWhatIsWrong) {
         {kTimes, "25:00", "noon", "25:00 is not a valid time|noon is not a valid time"},
         {kTimes, "08:00", "08:00", kNoOrder},
         {kDays, "2", "2", "2 to 3"},  // a day is shown whole
-        {kDays, "2", "1", "|"},
+        {kDays, "2", "1", "|The last day must not lie before the first day"},
         {kAllData, "", "", "1 to 9"},
     };
     for (const auto& [option, start, end, wanted] : cases) {
