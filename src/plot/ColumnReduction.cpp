@@ -37,7 +37,10 @@ class RunCollector {
 class Descent {
   public:
     Descent(const Curve& curve, const ColumnGrid& grid, RunCollector& runs)
-        : curve_(curve), grid_(grid), runs_(runs) {
+        : curve_(curve),
+          grid_(grid),
+          runs_(runs),
+          allFinite_(curve.PyramidX->AllFinite() && curve.PyramidY->AllFinite()) {
         for (std::size_t level = 0; level < curve.PyramidX->Levels(); ++level) {
             xLevels_.push_back(curve.PyramidX->Level(level));
             yLevels_.push_back(curve.PyramidY->Level(level));
@@ -84,12 +87,13 @@ class Descent {
     }
 
     bool Finite(std::size_t i) const {
-        return std::isfinite(curve_.X[i]) && std::isfinite(curve_.Y[i]);
+        return allFinite_ || (std::isfinite(curve_.X[i]) && std::isfinite(curve_.Y[i]));
     }
 
     const Curve& curve_;
     const ColumnGrid& grid_;
     RunCollector& runs_;
+    bool allFinite_;
     std::vector<std::span<const ValueRange>> xLevels_;
     std::vector<std::span<const ValueRange>> yLevels_;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace brask {
 namespace {
@@ -10,14 +11,22 @@ std::size_t Blocks(std::size_t values, std::size_t perBlock) {
     return (values + perBlock - 1) / perBlock;
 }
 
-ValueRange RangeOfAny(std::span<const double> values) {
-    ValueRange range;
-    for (const double value : values) range.Add(value);
-    return range;
+struct BlockRange {
+    ValueRange Range;
+    bool AllFinite = true;
+};
+
+BlockRange RangeOfAny(std::span<const double> values) {
+    BlockRange block;
+    for (const double value : values) {
+        block.Range.Add(value);
+        block.AllFinite = block.AllFinite && std::isfinite(value);
+    }
+    return block;
 }
 
 // Several independent lanes let the compiler keep them in vector registers.
-ValueRange RangeOfFullBlock(std::span<const double, CurvePyramid::kBlock> values) {
+BlockRange RangeOfFullBlock(std::span<const double, CurvePyramid::kBlock> values) {
     constexpr std::size_t kLanes = 8;
     std::array<double, kLanes> low;
     std::array<double, kLanes> high;
@@ -37,7 +46,8 @@ ValueRange RangeOfFullBlock(std::span<const double, CurvePyramid::kBlock> values
     for (const double lane : check) sum += lane;
     // asked this way round because a sum that is not a number equals nothing
     if (!(sum == 0.0)) return RangeOfAny(values);
-    return {*std::min_element(low.begin(), low.end()), *std::max_element(high.begin(), high.end())};
+    return {
+        {*std::min_element(low.begin(), low.end()), *std::max_element(high.begin(), high.end())}};
 }
 
 }  // namespace
@@ -54,11 +64,15 @@ CurvePyramid::CurvePyramid(std::span<const double> values) {
     // exact: there are up to hundreds of pyramids, and growing could leave each half empty
     blocks_.reserve(total);
 
+    const auto add = [this](const BlockRange& block) {
+        blocks_.push_back(block.Range);
+        allFinite_ = allFinite_ && block.AllFinite;
+    };
     std::size_t done = 0;
     for (; done + kBlock <= values.size(); done += kBlock) {
-        blocks_.push_back(RangeOfFullBlock(values.subspan(done).first<kBlock>()));
+        add(RangeOfFullBlock(values.subspan(done).first<kBlock>()));
     }
-    if (done < values.size()) blocks_.push_back(RangeOfAny(values.subspan(done)));
+    if (done < values.size()) add(RangeOfAny(values.subspan(done)));
 
     std::size_t first = 0;
     for (std::size_t level = 1; level < levels_; ++level) {

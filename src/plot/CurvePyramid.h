@@ -49,6 +49,9 @@ class CurvePyramid {
     static std::size_t Span(std::size_t level);
     // Over all values.
     ValueRange Whole() const;
+    // Whether no value is infinite or not a number: then nobody needs to look at single ones to
+    // find out, which far apart in memory is what takes time.
+    bool AllFinite() const { return allFinite_; }
     // Memory that the levels take.
     std::size_t Bytes() const { return blocks_.capacity() * sizeof(ValueRange); }
 
@@ -58,6 +61,7 @@ class CurvePyramid {
     std::vector<ValueRange> blocks_;
     std::size_t finest_ = 0;  // blocks of level 0
     std::size_t levels_ = 0;
+    bool allFinite_ = true;
 };
 
 }  // namespace brask

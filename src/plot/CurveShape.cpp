@@ -82,10 +82,9 @@ class ShapeBuilder {
     void AddDense(const ColumnRun& run) {
         const bool touches = last_ && std::abs(run.Column - lastColumn_) == 1 &&
                              grid_.Inside(run.Column) && grid_.Inside(lastColumn_);
-        const PixelPoint first = PointOf(run.First);
         // Neighbouring columns are joined by drawing the span longer. A line between them would be
         // one more stroke of the pen per pixel, and strokes are what costs time.
-        if (last_ && !touches) AddLine({*last_, first});
+        if (last_ && !touches) AddLine({*last_, PointOf(run.First)});
         if (grid_.Inside(run.Column)) {
             const auto [top, bottom] =
                 std::minmax({view_.PixelY(run.Y.Minimum), view_.PixelY(run.Y.Maximum)});
