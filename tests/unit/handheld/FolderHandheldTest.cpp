@@ -29,11 +29,13 @@ class FolderHandheldTest : public testing::Test {
         return names;
     }
 
-    fs::path root_ = [] {
-        std::string name = testing::TempDir() + "handheldXXXXXX";
-        return fs::path(::mkdtemp(name.data()));
-    }();
     NativeSystem System;
+    // the unique name is ours; it becomes a directory's
+    fs::path root_ = [this] {
+        fs::path name = System.Disk().CreateTemporary("handheld").Value();
+        fs::remove(name);
+        return name;
+    }();
     FolderHandheld Handheld{System.Disk(), root_.string()};
 };
 
