@@ -165,7 +165,8 @@ TEST_F(DownloadFaults, EveryDeviceCountAndConnectError) {
         EXPECT_EQ(download.User.ShownTexts()[0],
                   words.Fill(text.empty() ? unknown : known, {number, text}));
     }
-    EXPECT_GT(Outcomes().at("accepted"), 100);
+    // how many numbers have a text differs from one C library to the other
+    EXPECT_GT(Outcomes().at("accepted"), 30);
 }
 
 TEST_F(DownloadFaults, EveryFailureOfTheDisk) {

@@ -100,12 +100,12 @@ TEST(DownloadSession, ClearAnswers) {
 TEST(DownloadSession, ABrokenLinkEndsTheProgramAndTheBytesAreKept) {
     Download download;
     download.Link.Arrivals = Blocks(kStream.substr(0, 30), 30);
-    download.Link.Arrivals.push_back({"", false, 104});
+    download.Link.Arrivals.push_back({"", false, 5});
     download.Run();
     EXPECT_TRUE(download.User.Ended());
     ASSERT_EQ(download.User.Shown.size(), 1U);
     EXPECT_EQ(download.User.Shown[0].Title, "Receive Data Failure (1)");
-    EXPECT_EQ(download.User.Shown[0].Text, download.Information.ErrorText(104));
+    EXPECT_EQ(download.User.Shown[0].Text, download.Information.ErrorText(5));
     EXPECT_EQ(download.Collect.State, CollectState::kCancelled);
     EXPECT_EQ(download.Recovery.List().size(), 1U);
 }
