@@ -103,10 +103,9 @@ void CollectionRetrieval::ListFolder(const std::string& folder) {
     if (found.Ok() || NothingThere(found.Why())) return;
     const std::string reason = parts_.TextOf(found.Why());
     if (ContainsIgnoringCase(reason, "no more files")) return;
-    copyFailed_ = true;
-    const std::string text = parts_.Words.Fill(kCannotList, {folder, reason});
-    parts_.User.ShowNotice(text);
-    parts_.Log.WriteLog(text);
+    listingError_ = parts_.Words.Fill(kCannotList, {folder, reason});
+    parts_.User.ShowNotice(listingError_);
+    parts_.Log.WriteLog(listingError_);
 }
 
 void CollectionRetrieval::Retrieve(std::size_t number) {
@@ -127,7 +126,7 @@ void CollectionRetrieval::Retrieve(std::size_t number) {
     view_.ShowStatus(parts_.Words.Fill(kDeleting, {row.Name}));
     const Status deleted = deletion_.DeleteCollection(row.Name, copy.Source);
     row.Deleted = deleted.Ok();
-    deleteFailed_ = deleteFailed_ || !deleted.Ok();
+    otherFailed_ = otherFailed_ || !deleted.Ok();
     const auto add = [&row](const std::string& text) {
         row.Status += (row.Status.empty() ? "" : "; ") + text;
     };
@@ -140,7 +139,8 @@ void CollectionRetrieval::Retrieve(std::size_t number) {
 }
 
 void CollectionRetrieval::Copied(const CopyOutcome& copy) {
-    copyFailed_ = copyFailed_ || !copy.Problem.empty();
+    copyFailed_ = copyFailed_ || copy.Target.empty();
+    otherFailed_ = otherFailed_ || !copy.Problem.empty();
     if (copy.Target.empty()) return;
     session_.ReceivedFile = copy.Target;
     if (session_.FirstCopied.empty()) session_.FirstCopied = copy.Target;
@@ -153,12 +153,13 @@ RetrievalOutcome CollectionRetrieval::Finish() {
         session_.State = CollectState::kCancelled;
         return RetrievalOutcome::kStopped;
     }
-    if (!copyFailed_ && !deleteFailed_) {
+    const bool failed = copyFailed_ || !listingError_.empty();
+    if (!failed && !otherFailed_) {
         session_.State = CollectState::kFinished;
         return RetrievalOutcome::kDone;
     }
-    view_.ShowStatus(parts_.Words.Find(kNotAllWell));
-    return copyFailed_ ? RetrievalOutcome::kFailed : RetrievalOutcome::kNotDeleted;
+    view_.ShowStatus(listingError_.empty() ? parts_.Words.Find(kNotAllWell) : listingError_);
+    return failed ? RetrievalOutcome::kFailed : RetrievalOutcome::kNotDeleted;
 }
 
 void CollectionRetrieval::ShowMessage(const std::string& text) {

@@ -39,7 +39,7 @@ class RetrievalView {
 
 enum class RetrievalOutcome {
     kDone,          // all files there were (perhaps none) are copied and deleted
-    kNotDeleted,    // all are copied; some could not be deleted
+    kNotDeleted,    // all are copied; some could not be deleted, or not be closed
     kFailed,        // some could not be copied, or a folder not be listed
     kNotConnected,  // nothing was touched
     kStopped,       // by the user, or with the program
@@ -81,8 +81,9 @@ class CollectionRetrieval {
     CollectionCopy copy_;
     SafeDeletion deletion_;
     std::vector<RetrievalRow> rows_;
-    bool copyFailed_ = false;  // or a folder could not be listed
-    bool deleteFailed_ = false;
+    std::string listingError_;  // in words; empty while there was none
+    bool copyFailed_ = false;
+    bool otherFailed_ = false;  // a copy is complete all the same
 };
 
 }  // namespace brask

@@ -46,20 +46,6 @@ TEST_F(BraskRetrieve, EmptiesACardAndSaysWhereEverythingIs) {
     EXPECT_EQ(MessagesOf(again), std::vector<std::string>{"No Data Files Found on this PocketPC"});
 }
 
-TEST_F(BraskRetrieve, AFileOfTheSameNameIsKeptBeforeItIsReplaced) {
-    fs::create_directories(At("pc/VEK/From PocketPC"));
-    Write("pc/VEK/From PocketPC/Run 1.csv", "older");
-    const Finished finished = Run(Retrieve());
-    EXPECT_EQ(finished.Status, 0) << finished.Error;
-    EXPECT_NE(finished.Out.find("Run 1.csv: downloaded: yes, deleted on the handheld: yes\n"),
-              std::string::npos)
-        << finished.Out;
-    EXPECT_EQ(Read("pc/VEK/From PocketPC/Run 1.csv"), "one");
-    const std::string index = Read("pc/VEK/.recovery/index.txt");
-    const std::string line = index.substr(index.find("Run 1.csv\treplaced") - 20, 29);
-    EXPECT_EQ(Read("pc/VEK/.recovery/" + line), "older") << index;
-}
-
 TEST_F(BraskRetrieve, WithoutAHandheldNothingIsDone) {
     struct End {
         std::vector<std::string> Arguments;

@@ -11,7 +11,6 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using Fault = ScriptedHandheld::Fault;
 
 const std::string kKept = "/b/VEK/.recovery/2004-03-05 13-30-00 ";
 
@@ -66,29 +65,39 @@ TEST(CollectionRetrieval, SecondOfTwoEqualNamesIsKeptBeforeTheFirstOnesDeletionT
 }
 
 TEST(CollectionRetrieval, WhatCannotBeReadIsMovedAsideInsteadOfDeleted) {
-    // how reading fails, from the copy's first read (operation 4) to the third try to save it; what
-    // is said about it
-    const std::tuple<Fault, int, std::string> cases[] = {
-        {Fault::kRefused, 8, "Error !!! Reading WinCE file. Input/output error"},
-        {Fault::kSilent, 9, "Failed To Close Handle on PocketPC"}};
-    for (const auto& [how, last, message] : cases) {
+    Retrieval run;
+    run.Handheld.Contents = {{Pda("A.csv"), "bytes"}, {"\\VEK kept\\A.csv", "other"}};
+    run.Handheld.Folders.insert("\\VEK kept");
+    // from the copy's first read to the third try to save it
+    run.Handheld.FailAt = 4;
+    run.User.OnEvents = [&run] { run.Handheld.FailForGood = run.Handheld.Operations <= 8; };
+    run.Run();
+    EXPECT_EQ(run.User.Shown.at(0).Text, "Error !!! Reading WinCE file. Input/output error");
+    EXPECT_THAT(run.Grid(),
+                ElementsAre("A.csv Yes Yes Input/output error; "
+                            "A.csv was moved to \\VEK kept\\A (2).csv on the PocketPC"));
+    EXPECT_EQ(run.Handheld.Contents["\\VEK kept\\A (2).csv"], "bytes");
+    EXPECT_FALSE(run.Disk.Contents.contains(OnPc("A.csv")));
+}
+
+TEST(CollectionRetrieval, TellsALostFileFromASmallerTrouble) {
+    // the operation that fails: listing, reading, closing, deleting
+    const std::tuple<int, RetrievalOutcome, std::string> cases[] = {
+        {0, RetrievalOutcome::kFailed,
+         "Cannot list \\TalvexPDA\\collections\\ on the PocketPC: "
+         "Input/output error"},
+        {4, RetrievalOutcome::kFailed, "Not everything went well."},
+        {7, RetrievalOutcome::kNotDeleted, "Not everything went well."},
+        {8, RetrievalOutcome::kNotDeleted, "Not everything went well."}};
+    for (const auto& [operation, outcome, line] : cases) {
         Retrieval run;
-        run.Handheld.Contents = {{Pda("A.csv"), "bytes"}, {"\\VEK kept\\A.csv", "other"}};
-        run.Handheld.Folders.insert("\\VEK kept");
-        run.Handheld.FailAt = 4;
-        run.Handheld.How = how;
-        run.User.OnEvents = [&run, end = last] {
-            run.Handheld.FailForGood = run.Handheld.Operations <= end;
-        };
+        run.Handheld.Contents = {{Pda("A.csv"), "bytes"}};
+        run.Handheld.FailAt = operation;
         run.Run();
-        EXPECT_EQ(run.User.Shown.at(0).Text, message);
-        EXPECT_THAT(run.Grid(),
-                    ElementsAre("A.csv Yes Yes Input/output error; "
-                                "A.csv was moved to \\VEK kept\\A (2).csv on the PocketPC"));
-        EXPECT_EQ(run.Handheld.Contents["\\VEK kept\\A (2).csv"], "bytes");
-        EXPECT_FALSE(run.Disk.Contents.contains(OnPc("A.csv")));
-        EXPECT_EQ(run.Session.FirstCopied, "");
-        EXPECT_EQ(run.Outcome, RetrievalOutcome::kFailed);
+        EXPECT_EQ(run.Outcome, outcome) << operation;
+        EXPECT_THAT(run.Lines.back(), HasSubstr(line));
+        EXPECT_EQ(run.Session.FirstCopied.empty(), outcome == RetrievalOutcome::kFailed);
+        EXPECT_EQ(run.Session.State, CollectState::kConnecting);
     }
 }
 

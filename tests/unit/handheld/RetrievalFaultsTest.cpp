@@ -107,18 +107,5 @@ TEST_F(RetrievalFaults, DiskFailsAtEveryOperation) {
     }
 }
 
-TEST_F(RetrievalFaults, HandheldFailsOnceAndTheDiskForGood) {
-    // two names in both folders, with companions
-    const FileMap layout = Layouts()[4];
-    for (const Fault how : {Fault::kRefused, Fault::kSilent}) {
-        for (int disk = 0; disk < 90; ++disk) {
-            int handheld = 0;
-            while (Reaches(layout, {how, handheld, false, disk, true}) && handheld < 200)
-                ++handheld;
-            EXPECT_GT(handheld, 10);
-        }
-    }
-}
-
 }  // namespace
 }  // namespace brask
