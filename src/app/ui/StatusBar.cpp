@@ -33,6 +33,11 @@ StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
     addPermanentWidget(lblStatusFile);
     addPermanentWidget(lblStatusCounts);
     addPermanentWidget(lblStatusTime);
+    // a notice needs the room to be read, and is in the tool tip as a whole
+    connect(this, &QStatusBar::messageChanged, this, [this](const QString& notice) {
+        lblStatusRange->setVisible(notice.isEmpty());
+        setToolTip(notice);
+    });
     TimerOneSecond->setObjectName(QStringLiteral("TimerOneSecond"));
     connect(TimerOneSecond, &QTimer::timeout, this, [this] { ShowTime(); });
     // more often than the minute changes, so that it changes on time
