@@ -96,6 +96,52 @@ Result<WindowArguments> ParseArguments(int argc, char** argv, const Texts& texts
     return ParseArguments(QCoreApplication::arguments(), texts);
 }
 
+// The chart with its services, made of what the session holds.
+struct PlotObjects {
+    PlotObjects(const System& system, const Session& session)
+        : Builder(Plot, session.Data, system.Locale, system.Words),
+          Actions(Plot, system.Words),
+          Navigation({Plot, Actions, session.Options, system.User, system.Words}),
+          Selection({Plot, Builder, session.Data, session.Unit, system.Locale, system.Words}),
+          Period(session.DateOrder, system.Words) {}
+
+    Plotting References() { return {Plot, Builder, Actions, Navigation, Selection, Period}; }
+
+    Chart Plot;
+    PlotBuilder Builder;
+    ChartActions Actions;
+    PlotNavigation Navigation;
+    PointSelection Selection;
+    DisplayPeriod Period;
+};
+
+// From the loaded options to the end of the event loop.
+int ShowWindow(frmBraskLite& window, const WindowArguments& line, QtUserInterface& user,
+               const std::string& damagedSettings) {
+    // before FormLoad, whose messages belong to the window
+    user.SetViews(&window, &window.Progress(), &window.Notices());
+    if (line.Instrument) window.Instrument().Override(*line.Instrument);
+    if (line.Handheld) window.Handheld().Override(*line.Handheld);
+    window.FormLoad();
+    // a start-up message was answered with leaving; without an event loop yet, quitting has no
+    // effect of its own
+    if (user.Ended()) return 0;
+    if (window.OpensMaximized()) {
+        window.showMaximized();
+    } else {
+        window.show();
+    }
+    // last of the start-up, so that no other notice covers it
+    if (!damagedSettings.empty()) user.ShowNotice(damagedSettings);
+    // once the loop runs: the window is seen before a long load begins, and that has ended before
+    // the download begins
+    QTimer::singleShot(0, &window, [&] {
+        if (!line.File.isEmpty()) window.OpenFile(line.File);
+        if (line.Download) window.Download();
+    });
+    return QApplication::exec();
+}
+
 int RunWindow(int argc, char** argv) {
     const EnglishTexts texts;
     const auto parsed = ParseArguments(argc, argv, texts);
@@ -130,40 +176,12 @@ int RunWindow(int argc, char** argv) {
     const Session session{
         data,        loader,           unit, line.DateOrder.value_or(native.Locale().DateOrder()),
         directories, stored.Options(), log};
-    Chart chart;
-    PlotBuilder builder(chart, data, native.Locale(), texts);
+    PlotObjects plot(system, session);
 
-    ChartActions actions(chart, texts);
-    PlotNavigation navigation({chart, actions, stored.Options(), user, texts});
-    PointSelection selection({chart, builder, data, unit, native.Locale(), texts});
-    DisplayPeriod period(session.DateOrder, texts);
-
-    frmBraskLite window(system, session, {chart, builder, actions, navigation, selection, period},
-                        choosers);
+    frmBraskLite window(system, session, plot.References(), choosers);
     window.Instrument().UseLinks(
         [&native](const InstrumentAddress& address) { return native.LinkTo(address); });
-    if (line.Instrument) window.Instrument().Override(*line.Instrument);
-    // before FormLoad, whose messages belong to the window
-    user.SetViews(&window, &window.Progress(), &window.Notices());
-    if (line.Handheld) window.Handheld().Override(*line.Handheld);
-    window.FormLoad();
-    // a start-up message was answered with leaving; without an event loop yet, quitting has no
-    // effect of its own
-    if (user.Ended()) return 0;
-    if (window.OpensMaximized()) {
-        window.showMaximized();
-    } else {
-        window.show();
-    }
-    // last of the start-up, so that no other notice covers it
-    if (!stored.Damage().empty()) user.ShowNotice(stored.Damage());
-    // once the loop runs: the window is seen before a long load begins, and that has ended before
-    // the download begins
-    QTimer::singleShot(0, &window, [&] {
-        if (!line.File.isEmpty()) window.OpenFile(line.File);
-        if (line.Download) window.Download();
-    });
-    return QApplication::exec();
+    return ShowWindow(window, line, user, stored.Damage());
 }
 
 }  // namespace
