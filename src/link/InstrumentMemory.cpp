@@ -19,7 +19,11 @@ std::string EndOfDataLine(std::int64_t count) {
     return std::string(kEndData) + std::string(blanks, ' ') + digits;
 }
 
-bool Carried(char c) { return c > 0; }
+// As bytes: whether a plain char is signed depends on the machine.
+bool Carried(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte > 0 && byte < 128;
+}
 
 }  // namespace
 

@@ -16,7 +16,7 @@ class InfraredBlocks {
   public:
     // Takes the bytes of one receive; `full` when they filled the buffer, so that the block may go
     // on. The result has one control byte in front and may be a byte longer; it is empty when
-    // nothing was received, and when only control bytes were.
+    // nothing was received, and when a cut block goes on with nothing but control bytes.
     std::string Next(std::string received, bool full);
 
   private:

@@ -213,7 +213,7 @@ void DisplayPeriodPanel::optPeriodDisplay_Click(int index) {
         static_cast<void>(parts_.Navigation.ShowView(parts_.Plot.Original));
         return;
     }
-    // dates are checked twice: users' help describes it so
+    // wanted: dates are checked a second time
     if (parts_.Period.Option == PeriodOption::kDates) CheckInput();
     CheckInput();
 }

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "platform/qt/QtText.h"
+
 namespace brask {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
@@ -17,7 +19,7 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-    setToolTip(shown == text() ? QString() : text());
+    setToolTip(shown == text() ? QString() : AsToolTip(text()));
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(contentsRect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft), shown);

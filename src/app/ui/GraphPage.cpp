@@ -171,7 +171,7 @@ void GraphPage::ShowRecentFiles(const QStringList& paths,
             frameCommandEnabled);
         link->setFlat(true);
         link->setCursor(Qt::PointingHandCursor);
-        link->setToolTip(path);
+        link->setToolTip(AsToolTip(path));
         connect(link, &QPushButton::clicked, this, [open, path] { open(path); });
         recentList_->addWidget(link, 0, Qt::AlignLeft);
     }

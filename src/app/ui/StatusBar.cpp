@@ -36,7 +36,7 @@ StatusBar::StatusBar(const Texts& texts, const Clock& clock, QWidget* parent)
     // a notice needs the room to be read, and is in the tool tip as a whole
     connect(this, &QStatusBar::messageChanged, this, [this](const QString& notice) {
         lblStatusRange->setVisible(notice.isEmpty());
-        setToolTip(notice);
+        setToolTip(AsToolTip(notice));
     });
     TimerOneSecond->setObjectName(QStringLiteral("TimerOneSecond"));
     connect(TimerOneSecond, &QTimer::timeout, this, [this] { ShowTime(); });

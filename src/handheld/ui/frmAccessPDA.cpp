@@ -147,7 +147,7 @@ void frmAccessPDA::FillRow(int line, const RetrievalRow& row) {
 void frmAccessPDA::SetCell(int row, int column, const QString& text) {
     auto* cell = new QTableWidgetItem(text);
     // a name may be longer than its column
-    cell->setToolTip(text);
+    cell->setToolTip(AsToolTip(text));
     MSFlexGrid1->setItem(row, column, cell);
 }
 

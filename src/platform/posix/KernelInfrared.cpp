@@ -15,30 +15,30 @@ constexpr std::size_t kName = 8;
 constexpr std::size_t kCharacterSet = 30;
 constexpr std::size_t kHints = 31;
 
-constexpr std::size_t kStatedHead = 4;
-constexpr std::size_t kStatedDeviceSize = 30;
+constexpr std::size_t kListHead = 4;
+constexpr std::size_t kListDeviceSize = 30;
 constexpr char kAnySelector = '\xFF';
 
 }  // namespace
 
 InfraredDeviceList DevicesFromKernel(const KernelDeviceList& list, std::size_t length) {
-    InfraredDeviceList stated{};
+    InfraredDeviceList devices{};
     std::uint32_t count = 0;
     std::memcpy(&count, list.data(), sizeof count);
     const std::size_t held =
         length < kKernelListHead ? 0 : (length - kKernelListHead) / kKernelDeviceSize;
-    const std::size_t devices = std::min({std::size_t{count}, held, kMostKernelDevices});
-    stated[0] = static_cast<char>(devices);
-    for (std::size_t i = 0; i < devices; ++i) {
+    const std::size_t shown = std::min({std::size_t{count}, held, kMostKernelDevices});
+    devices[0] = static_cast<char>(shown);
+    for (std::size_t i = 0; i < shown; ++i) {
         const char* from = list.data() + kKernelListHead + i * kKernelDeviceSize;
-        char* to = stated.data() + kStatedHead + i * kStatedDeviceSize;
+        char* to = devices.data() + kListHead + i * kListDeviceSize;
         std::copy_n(from + kPeer, kIdentifierSize, to);
         std::copy_n(from + kName, kNameSize, to + kIdentifierSize);
         to += kIdentifierSize + kNameSize;
         std::copy_n(from + kHints, 2, to);
         to[2] = from[kCharacterSet];
     }
-    return stated;
+    return devices;
 }
 
 KernelAddress AddressForKernel(const InfraredAddress& address) {

@@ -1,6 +1,6 @@
-// The kernel's own forms of infrared addresses and device lists, and the stated forms that they are
-// turned into. Written out byte by byte, since kernels with infrared sockets are older than the
-// headers of today's systems.
+// The kernel's own forms of infrared addresses and device lists, turned into those of the seam.
+// Written out byte by byte, since kernels with infrared sockets are older than the headers of
+// today's systems.
 #pragma once
 
 #include <array>

@@ -9,10 +9,10 @@
 namespace brask {
 
 std::string PosixSystemInformation::ErrorText(int number) const {
-    char buffer[256] = "";
-    const std::string_view text = strerror_r(number, buffer, sizeof buffer);
-    // the C library has an answer for every number; its "Unknown error 12345" is none
-    return text.substr(0, 13) == "Unknown error" ? std::string() : std::string(text);
+    // Never translated, and null for a number without a meaning: strerror has an answer for every
+    // number, in the words and letters of whatever locale the drawing library has chosen.
+    const char* const text = strerrordesc_np(number);
+    return text != nullptr ? text : "";
 }
 
 std::string PosixSystemInformation::UserName() const {

@@ -13,6 +13,9 @@ QString ToQt(const std::string& utf8);
 std::string FromQt(const QString& text);
 // A row in the language in force.
 QString ToQt(const Texts& texts, const TextRow& row);
+// Text for a tool tip as it stands: a tool tip takes what looks like markup for markup, and names
+// of files and gases may look like anything.
+QString AsToolTip(const QString& text);
 // A caption without its mnemonic mark; "&&" becomes the "&" that it stands for.
 // For names that are read out, and for texts that are no captions.
 QString WithoutMnemonics(QString text);

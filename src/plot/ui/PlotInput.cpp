@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <cmath>
 
+#include "platform/qt/QtText.h"
 #include "plot/PointSearch.h"
 #include "plot/ui/PlotKeys.h"
 
@@ -260,6 +261,11 @@ bool PlotInput::RectangleKey(const QKeyEvent& event) {
 }
 
 bool PlotInput::Escape() {
+    // a press that has drawn nothing yet, or a pan, only ends
+    if (drag_ != Drag::kNone && !chart_.Rectangle) {
+        Abandon();
+        return true;
+    }
     if (chart_.Rectangle) {
         drag_ = Drag::kNone;
         actions_.Execute(ChartAction::kCancelZoom);
@@ -288,7 +294,7 @@ void PlotInput::Abandon() {
 
 void PlotInput::ShowToolTip() {
     if (!chart_.Selected || !plot_.underMouse()) return;
-    QToolTip::showText(QCursor::pos(), QString::fromStdString(chart_.Readout), &plot_);
+    QToolTip::showText(QCursor::pos(), AsToolTip(ToQt(chart_.Readout)), &plot_);
 }
 
 void PlotInput::ShowCursorShape() {

@@ -17,10 +17,10 @@ TEST(KernelInfrared, RecordsAndAddressesAreTurnedIntoTheStatedForms) {
         std::copy(records[i].begin(), records[i].end(), record);
         std::copy_n("chh", 3, record + 30);
     }
-    InfraredDeviceList stated = posix::DevicesFromKernel(list, 4 + 2 * 36);
-    EXPECT_EQ(std::string(stated.data(), 20),
+    InfraredDeviceList devices = posix::DevicesFromKernel(list, 4 + 2 * 36);
+    EXPECT_EQ(std::string(devices.data(), 20),
               std::string("\2\0\0\0\x11\x22\x33\x44VEK TK42\0\0\0\0", 20));
-    EXPECT_EQ(std::string(stated.data() + 30, 13), std::string("hhc\0\x55\x66\x77\x88PHONE", 13));
+    EXPECT_EQ(std::string(devices.data() + 30, 13), std::string("hhc\0\x55\x66\x77\x88PHONE", 13));
     EXPECT_EQ(posix::DevicesFromKernel(list, 4 + 36 + 35)[0], 1);
     EXPECT_EQ(posix::DevicesFromKernel(list, 3)[0], 0);
     list[0] = list[1] = '\xFF';
