@@ -52,7 +52,6 @@ TEST(DateTime, SerialsOutsideTheCalendarBecomeTheNearerEnd) {
 
 TEST(DateTime, TextsThatAreDates) {
     const Case cases[] = {{kMonthDayYear, "JAN-01-2003 00:05:12", "01-Jan-2003 00:05:12"},
-                          {kMonthDayYear, "feb-29-2004 23:59:59", "29-Feb-2004 23:59:59"},
                           {kYearMonthDay, "5-mar-2004 7:09", "05-Mar-2004 07:09:00"},
                           {kMonthDayYear, "3/5/2004 13:30", "05-Mar-2004 13:30:00"},
                           {kDayMonthYear, "3/5/2004 13:30", "03-May-2004 13:30:00"},
@@ -88,9 +87,7 @@ TEST(DateTime, RewritingByDateOrder) {
                           {kDayMonthYear, "JAN/02/2003 00:05:12", "02/01/2003 00:05:12"},
                           {kYearMonthDay, "JAN/02/2003 00:05:12", "2003 00:05:12/01/02"},
                           {kDayMonthYear, "dEc/31/2003/7", "31/12/2003"},
-                          {kDayMonthYear, "jann/02/2003", "02//2003"},
                           {kDayMonthYear, "01/02/2003", "02//2003"},
-                          {kDayMonthYear, "JAN-02-2003 00:05:12", "JAN-02-2003 00:05:12"},
                           {kDayMonthYear, "JAN/02-2003", "JAN/02-2003"}};
     for (const auto& [order, text, rewritten] : cases) {
         EXPECT_EQ(ToLocaleDateText(text, order), rewritten);

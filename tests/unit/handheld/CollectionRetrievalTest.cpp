@@ -15,48 +15,46 @@ using Fault = ScriptedHandheld::Fault;
 
 const std::string kKept = "/b/VEK/.recovery/2004-03-05 13-30-00 ";
 
-std::string Pda(const std::string& name) { return kPda + name; }
-std::string Ppc(const std::string& name) { return kPpc + name; }
-std::string OnPc(const std::string& name) { return kPcDirectory + name; }
-
 TEST(CollectionRetrieval, CopiesAndDeletesInOrderAndKeepsCompanions) {
     Retrieval run;
     run.Handheld.ComesUp = 2;
-    run.Handheld.Contents = {{Pda("B.csv"), "b"},
-                             {Pda("B.col"), "b companion"},
-                             {Ppc("A.csv"), "a"},
-                             {Ppc("note.txt"), "note"}};
+    run.Handheld.Contents = {{kPda + "B.csv", "b"},
+                             {kPda + "B.col", "b companion"},
+                             {kPpc + "..:A.csv", "a"},
+                             {kPpc + "note.txt", "note"}};
     run.Run();
-    EXPECT_THAT(run.Lines, ElementsAre("Connected to PocketPC", "Finding Data Files on PocketPC",
-                                       "2 Data Files Found on PocketPC", "Copying B.csv to PC",
-                                       "Deleting File B.csv from PocketPC", "Copying A.csv to PC",
-                                       "Deleting File A.csv from PocketPC"));
+    EXPECT_THAT(run.Lines,
+                ElementsAre("Connected to PocketPC", "Finding Data Files on PocketPC",
+                            "2 Data Files Found on PocketPC", "Copying B.csv to PC",
+                            "Deleting File B.csv from PocketPC", "Copying ..:A.csv to PC",
+                            "Deleting File ..:A.csv from PocketPC"));
     EXPECT_THAT(run.Grid(), ElementsAre("B.csv Yes Yes B.col was kept as " + kKept + "B.col",
-                                        "A.csv Yes Yes "));
+                                        "..:A.csv Yes Yes "));
     EXPECT_EQ(run.Outcome, RetrievalOutcome::kDone);
     EXPECT_EQ(run.Session.State, CollectState::kFinished);
-    EXPECT_EQ(run.Session.FirstCopied, OnPc("B.csv"));
-    EXPECT_EQ(run.Session.ReceivedFile, OnPc("A.csv"));
-    EXPECT_EQ(run.Disk.Contents[OnPc("A.csv")], "a");
+    EXPECT_EQ(run.Session.FirstCopied, kPcDirectory + "B.csv");
+    // a name of the handheld cannot lead out of the directory
+    EXPECT_EQ(run.Session.ReceivedFile, kPcDirectory + "_._A.csv");
+    EXPECT_EQ(run.Disk.Contents[kPcDirectory + "_._A.csv"], "a");
     EXPECT_EQ(run.Disk.Contents[kKept + "B.col"], "b companion");
     EXPECT_EQ(run.Handheld.Contents.size(), 1U);  // the note
     EXPECT_THAT(run.User.Shown, IsEmpty());
-    EXPECT_THAT(run.User.Notices, ElementsAre("Data file saved: " + OnPc("B.csv"),
-                                              "Data file saved: " + OnPc("A.csv")));
+    EXPECT_THAT(run.User.Notices, ElementsAre("Data file saved: " + kPcDirectory + "B.csv",
+                                              "Data file saved: " + kPcDirectory + "_._A.csv"));
 }
 
 TEST(CollectionRetrieval, SecondOfTwoEqualNamesIsKeptBeforeTheFirstOnesDeletionTakesIt) {
     Retrieval run;
-    run.Store.Values["NotifyUserOfNewFiles"] = "NO";
-    run.Handheld.Contents = {{Pda("A.csv"), "first"}, {Ppc("A.csv"), "second"}};
-    run.Disk.Contents[OnPc("A.csv")] = "older";
+    run.Known.Values["NotifyUserOfNewFiles"] = "NO";
+    run.Handheld.Contents = {{kPda + "A.csv", "first"}, {kPpc + "A.csv", "second"}};
+    run.Disk.Contents[kPcDirectory + "A.csv"] = "older";
     run.Run();
     const std::string kept = "A.csv was kept as " + kKept + "A (2).csv";
     EXPECT_THAT(run.Grid(), ElementsAre("A.csv Yes Yes " + kept,
                                         "A.csv Yes No No such file or directory; " + kept));
-    EXPECT_THAT(run.User.ShownTexts(), ElementsAre("Unable to open WinCE file" + Ppc("A.csv") +
+    EXPECT_THAT(run.User.ShownTexts(), ElementsAre("Unable to open WinCE file" + kPpc + "A.csv" +
                                                    "\r\nError: No such file or directory"));
-    EXPECT_EQ(run.Disk.Contents[OnPc("A.csv")], "first");
+    EXPECT_EQ(run.Disk.Contents[kPcDirectory + "A.csv"], "first");
     EXPECT_EQ(run.Disk.Contents[kKept + "A.csv"], "older");
     EXPECT_EQ(run.Disk.Contents[kKept + "A (2).csv"], "second");
     EXPECT_THAT(run.User.Notices, IsEmpty());
@@ -73,7 +71,7 @@ TEST(CollectionRetrieval, WhatCannotBeReadIsMovedAsideInsteadOfDeleted) {
         {Fault::kSilent, 9, "Failed To Close Handle on PocketPC"}};
     for (const auto& [how, last, message] : cases) {
         Retrieval run;
-        run.Handheld.Contents = {{Pda("A.csv"), "bytes"}, {"\\VEK kept\\A.csv", "other"}};
+        run.Handheld.Contents = {{kPda + "A.csv", "bytes"}, {"\\VEK kept\\A.csv", "other"}};
         run.Handheld.Folders.insert("\\VEK kept");
         run.Handheld.FailAt = 4;
         run.Handheld.How = how;
@@ -86,28 +84,16 @@ TEST(CollectionRetrieval, WhatCannotBeReadIsMovedAsideInsteadOfDeleted) {
                     ElementsAre("A.csv Yes Yes Input/output error; "
                                 "A.csv was moved to \\VEK kept\\A (2).csv on the PocketPC"));
         EXPECT_EQ(run.Handheld.Contents["\\VEK kept\\A (2).csv"], "bytes");
-        EXPECT_FALSE(run.Disk.Contents.contains(OnPc("A.csv")));
+        EXPECT_FALSE(run.Disk.Contents.contains(kPcDirectory + "A.csv"));
         EXPECT_EQ(run.Session.FirstCopied, "");
         EXPECT_EQ(run.Outcome, RetrievalOutcome::kFailed);
     }
 }
 
-TEST(CollectionRetrieval, NamesOfTheHandheldStayInTheDirectory) {
-    Retrieval run;
-    run.Handheld.Contents = {{Pda("..:run?.csv"), "bytes"}};
-    run.Run();
-    EXPECT_EQ(run.Disk.Contents[OnPc("_._run_.csv")], "bytes");
-    EXPECT_THAT(run.Handheld.Contents, IsEmpty());
-}
-
 TEST(CollectionRetrieval, EndsThatTouchNothing) {
-    struct End {
-        const char* Address;
-        bool Initialises, Connects;
-        const char* Line;
-        const char* Text;
-        bool ProgramEnds;
-    };
+    // the address; whether the handheld initialises, connects; the line, the message; whether the
+    // program ends
+    using End = std::tuple<const char*, bool, bool, const char*, const char*, bool>;
     const char* const noLink = "Unable to connect to PocketPC";
     const End ends[] = {{"rapi", false, false, "",
                          "Error Description:Type mismatch\r\n[Get Data From PocketPC]", true},
@@ -116,27 +102,26 @@ TEST(CollectionRetrieval, EndsThatTouchNothing) {
                         {"dir:/pda", true, false, "no folder /pda", noLink, false},
                         {"rapi", true, true, "0 Data Files Found on PocketPC",
                          "No Data Files Found on this PocketPC", false}};
-    for (const End& end : ends) {
+    for (const auto& [address, initialises, connects, line, text, programEnds] : ends) {
         Retrieval run;
-        run.Address = ParseHandheldAddress(end.Address).value();
-        run.Handheld.Initialises = end.Initialises;
-        run.Handheld.Connects = end.Connects;
+        run.Address = ParseHandheldAddress(address).value();
+        run.Handheld.Initialises = initialises;
+        run.Handheld.Connects = connects;
         run.Session.FirstCopied = "of an earlier run";
         run.Run();
-        EXPECT_THAT(run.User.ShownTexts(), ElementsAre(end.Text));
-        EXPECT_THAT(run.Lines.empty() ? "" : run.Lines.back(), HasSubstr(end.Line));
-        EXPECT_EQ(run.User.Ended(), end.ProgramEnds);
+        EXPECT_THAT(run.User.ShownTexts(), ElementsAre(text));
+        EXPECT_THAT(run.Lines.empty() ? "" : run.Lines.back(), HasSubstr(line));
+        EXPECT_EQ(run.User.Ended(), programEnds);
         EXPECT_EQ(run.Session.FirstCopied, "");
         EXPECT_EQ(run.Outcome,
-                  end.Connects ? RetrievalOutcome::kDone : RetrievalOutcome::kNotConnected);
-        EXPECT_EQ(run.Session.State,
-                  end.Connects ? CollectState::kFinished : CollectState::kCancelled);
+                  connects ? RetrievalOutcome::kDone : RetrievalOutcome::kNotConnected);
+        EXPECT_EQ(run.Session.State, connects ? CollectState::kFinished : CollectState::kCancelled);
     }
 }
 
 TEST(CollectionRetrieval, StopsAtEveryTurnWithoutDeletingWhatIsNotCopied) {
     const std::map<std::string, std::string> files = {
-        {Pda("A.csv"), std::string(9000, 'a')}, {Pda("A.col"), "x"}, {Ppc("B.csv"), "b"}};
+        {kPda + "A.csv", std::string(9000, 'a')}, {kPda + "A.col", "x"}, {kPpc + "B.csv", "b"}};
     bool finished = false;
     for (int turn = 1; !finished; ++turn) {
         Retrieval run;
@@ -165,18 +150,14 @@ TEST(SyncSoftware, IsAskedForUntilItIsThere) {
         {false, "XX", false, "XX", false, 2},
         {false, "OK", false, "OK", true, 0}};
     for (const auto& [installed, before, answer, after, goOn, shown] : cases) {
-        MemoryFiles disk;
-        if (installed) disk.Directories.insert("c:\\program files\\Microsoft activesync");
-        MemorySettingsStore store;
-        MemorySettingsStore own;
-        store.Values["AskedActiveSync"] = before;
-        const FixedUserLocale locale;
-        Settings settings(store, own, locale, [](const auto&, const auto&) {});
-        ScriptedUserInterface user;
-        user.Answers = {answer};
-        EXPECT_EQ(ConfirmSyncSoftware(disk, settings, user, EnglishTexts()), goOn);
-        EXPECT_EQ(store.Values["AskedActiveSync"], after);
-        EXPECT_EQ(user.Shown.size(), shown);
+        Surroundings around;
+        if (installed) around.Disk.Directories.insert("c:\\program files\\Microsoft activesync");
+        around.Known.Values["AskedActiveSync"] = before;
+        around.User.Answers = {answer};
+        EXPECT_EQ(ConfirmSyncSoftware(around.Disk, around.Options, around.User, around.Words),
+                  goOn);
+        EXPECT_EQ(around.Known.Values["AskedActiveSync"], after);
+        EXPECT_EQ(around.User.Shown.size(), shown);
     }
 }
 
