@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <string>
+#include <tuple>
 
 #include "data/DateTime.h"
 
@@ -10,11 +11,8 @@ namespace {
 
 using enum LongDateOrder;
 
-struct Case {
-    LongDateOrder Order;
-    const char* Text;
-    const char* Result;
-};
+// the order of dates, a text, what comes of it
+using Case = std::tuple<LongDateOrder, const char*, const char*>;
 
 TEST(DateTime, DaysAgreeWithCountingThemOneByOne) {
     static constexpr int kLengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
