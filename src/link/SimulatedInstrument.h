@@ -16,18 +16,18 @@ namespace brask {
 // stream from 0, without control bytes; for SilentAfter and CutAfter fillers count, too, since they
 // speak of what went out.
 struct InstrumentBehaviour {
-    std::string Name = "VEK TK42";            // at most 22 bytes
-    int Devices = 1;                          // in range, 0 to 255; all but the first are strangers
-    std::size_t BlockSize = 512;              // bytes of the stream in a block, 1 to 8191
-    std::int64_t DelayMilliseconds = 0;       // between two frames
-    std::int64_t Merge = 1;                   // blocks joined in a frame, as many as it can hold
-    std::optional<std::int64_t> Filler;       // a byte 0 after every so many bytes, from 1 on
-    std::optional<std::int64_t> SilentAfter;  // sends nothing any more, the link stays
-    std::optional<std::int64_t> CutAfter;     // closes the link
-    std::optional<std::int64_t> Corrupt;      // inverts the lowest bit of this byte
-    std::optional<std::int64_t> DropLine;     // leaves out this data line, counted from 1
-    std::optional<std::int64_t> Count;        // what "END DATA:" announces instead of the truth
-    std::optional<std::uint32_t> Refuse;      // the error number that a connect is refused with
+    std::string Name = "VEK TK42";         // at most 22 bytes
+    int Devices = 1;                       // in range, 0 to 255; all but the first are strangers
+    std::size_t BlockSize = 512;           // bytes of the stream in a block, 1 to 8191
+    std::int64_t DelayMilliseconds = 0;    // between two frames
+    std::int64_t Merge = 1;                // blocks joined in a frame, as many as it can hold
+    std::optional<std::int64_t> Filler{};  // a byte 0 after every so many bytes, from 1 on
+    std::optional<std::int64_t> SilentAfter{};  // sends nothing any more, the link stays
+    std::optional<std::int64_t> CutAfter{};     // closes the link
+    std::optional<std::int64_t> Corrupt{};      // inverts the lowest bit of this byte
+    std::optional<std::int64_t> DropLine{};     // leaves out this data line, counted from 1
+    std::optional<std::int64_t> Count{};        // what "END DATA:" announces instead of the truth
+    std::optional<std::uint32_t> Refuse{};      // the error number that a connect is refused with
     std::optional<std::string> ClearAnswer = "[OK]";  // nothing: the command stays unanswered
 };
 

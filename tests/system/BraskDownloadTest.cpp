@@ -21,7 +21,7 @@ class BraskDownload : public ProgramTest {
 };
 
 TEST_F(BraskDownload, FilesClearsAndCanBeRepeatedFromTheRawStream) {
-    const RunningSimulator simulator({"--file", kApril});
+    const RunningSimulator simulator({});
     const auto done = Download(simulator, {"--clear"}, 0);
     EXPECT_EQ(KeysOf(done), "accepted file raw_file bytes cleared messages");
     EXPECT_TRUE(done["accepted"].GetBool());
@@ -53,7 +53,6 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
     const std::string refused = std::to_string(RefusedConnection());
     const std::string refusedText = NativeSystem().Information().ErrorText(RefusedConnection());
     const Case cases[] = {
-        {{"--block", "1", "--name", " vek tk42 "}, 0, "", "accepted with 468"},
         {{"--block", "8191", "--merge", "3", "--filler", "7"}, 0, "", "accepted with 468"},
         {{"--drop-line", "7"}, 1, "Received 467 lines\r\nExpected 468 Lines", ""},
         {{"--silent-after", "700"}, 1, "", "no END DATA: line"},
@@ -62,13 +61,14 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
          1,
          "Error Description:" + refusedText + "\r\nError Number:" + refused + "\r\n[Connect]",
          ""},
-        {{"--refuse", "4711"}, 1, "Socket Connect Error is Unknown\r\nError=4711", ""},
+        {{"--refuse", "4711"},
+         1,
+         "Socket Connect Error is Unknown\r\nError=4711\r\nConnect to K42 is aborted",
+         ""},
         {{"--no-clear-answer"}, 0, "Clear Data Acknowledge Not Received!", ""},
         {{"--clear-answer", "[NO]"}, 0, "Talvex© K42 did not clear data", ""}};
     for (const auto& [options, status, message, logged] : cases) {
-        std::vector<std::string> all{"--file", kApril};
-        all.insert(all.end(), options.begin(), options.end());
-        const RunningSimulator simulator(all);
+        const RunningSimulator simulator(options);
         const bool clears = options[0].find("clear") != std::string::npos;
         const auto done = Download(simulator, {clears ? "--clear" : "--no-clear"}, status);
         const auto messages = MessagesOf(done);
@@ -83,14 +83,12 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
 }
 
 TEST_F(BraskDownload, GivesUpOrIsNotStarted) {
-    const std::vector<std::string> root{"download", "--root", At("data")};
-    const auto with = [&root](std::initializer_list<std::string> more) {
-        std::vector<std::string> words = root;
-        words.insert(words.end(), more);
+    const auto with = [this](std::vector<std::string> words) {
+        words.insert(words.begin(), {"download", "--root", At("data")});
         return words;
     };
     // nobody there, and another device than the instrument
-    const RunningSimulator stranger({"--file", kApril, "--name", "PHONE"});
+    const RunningSimulator stranger({"--name", "PHONE"});
     for (const std::string& address : {std::string("tcp:127.0.0.1:1"), stranger.Address()}) {
         const auto waited = Json(with({"--instrument", address, "--timeout", "1"}), 1);
         EXPECT_EQ(MessagesOf(waited), std::vector{"No connection to the instrument (" + address +

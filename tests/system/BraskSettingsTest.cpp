@@ -72,14 +72,5 @@ TEST_F(BraskSettings, RefusalsAndFailuresSayWhy) {
               0U);
 }
 
-TEST_F(BraskSettings, ADamagedFileIsSetAsideAndReported) {
-    const std::string damaged = "[Brask Lite]\nGraphType=1\nno setting\n";
-    const std::string file = Write("s.ini", damaged);
-    const Finished finished = Run({"settings", "get", "GraphType", "--settings", file});
-    EXPECT_EQ(finished.Out, "0\n");
-    EXPECT_NE(finished.Error.find(file + ".bad"), std::string::npos) << finished.Error;
-    EXPECT_EQ(Read("s.ini.bad"), damaged);
-}
-
 }  // namespace
 }  // namespace brask

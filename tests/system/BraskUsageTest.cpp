@@ -12,7 +12,6 @@ TEST_F(BraskUsage, WrongUsageIsOneLineAndStatusTwo) {
     using Case = std::pair<std::vector<std::string>, const char*>;
     const Case cases[] = {{{}, "no command given"},
                           {{"two\nlines"}, "unknown command \"two lines\""},
-                          {{"help", "nothing"}, "unknown command \"nothing\""},
                           {{"plot", "a", "-o", "a.jpg"}, "neither .bmp nor .png"},
                           {{"expand", "a"}, "-o is missing"},
                           {{"settings", "reset", "a", "b"}, "settings get KEY"}};
@@ -61,6 +60,18 @@ TEST_F(BraskUsage, HelpManualAndCompletionNameTheSameThings) {
         }
     }
     EXPECT_EQ(Run({"--version"}).Out, Run({"info", "--version"}).Out);
+}
+
+TEST_F(BraskUsage, TheSimulatorsHelpManualAndCompletionNameTheSameOptions) {
+    ASSERT_EQ(RunToEnd("k42sim", {"--help"}, {At("help"), At("err")}), 0);
+    const std::vector<std::string> options = Listed(Read("help"));
+    EXPECT_GE(options.size(), 19U);
+    for (const std::string& name : options) {
+        const std::string manual = Read(BRASK_SHARE "/man/k42sim.1");
+        EXPECT_NE(manual.find("Fl " + name.substr(1)), std::string::npos) << name;
+        const std::string completion = Read(BRASK_SHARE "/bash-completion/k42sim");
+        EXPECT_NE(completion.find(name), std::string::npos) << name;
+    }
 }
 
 }  // namespace

@@ -1,80 +1,70 @@
 #include "StartProgram.h"
 
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
 namespace brask {
 namespace {
 
+// For a shell that the program takes the place of.
+std::string CommandOf(const std::string& program, const std::vector<std::string>& words) {
+    std::string command = "exec '" BRASK_BIN "/" + program + "'";
+    // in single quotes a shell changes nothing; no word of these tests holds one
+    for (const std::string& word : words) command += " '" + word + "'";
+    return command + " </dev/null";
+}
+
+int StatusOf(int state) { return WIFEXITED(state) ? WEXITSTATUS(state) : -1; }
+
 class Child final : public RunningProgram {
   public:
-    Child(pid_t process, int output) : process_(process), output_(output) {}
+    // The command tells the number of its process first.
+    explicit Child(const std::string& command)
+        : output_(popen(command.c_str(), "r")), process_(std::stoi(Child::ReadLine())) {}
     ~Child() override {
-        if (process_ > 0) {
-            kill(process_, SIGKILL);
-            waitpid(process_, nullptr, 0);
-        }
-        close(output_);
+        if (output_ == nullptr) return;
+        kill(process_, SIGKILL);
+        pclose(output_);
     }
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
 
     std::string ReadLine() override {
         std::string line;
-        char c = 0;
-        while (read(output_, &c, 1) == 1 && c != '\n') line += c;
+        for (int c = 0; (c = std::fgetc(output_)) != EOF && c != '\n';) {
+            line += static_cast<char>(c);
+        }
         return line;
     }
     bool Interrupt() const override { return kill(process_, SIGINT) == 0; }
     int ExitStatus() override {
-        int state = 0;
-        waitpid(std::exchange(process_, 0), &state, 0);
-        return WIFEXITED(state) ? WEXITSTATUS(state) : -1;
+        // closing the pipe before would end a program that still writes
+        while (std::fgetc(output_) != EOF) continue;
+        return StatusOf(pclose(std::exchange(output_, nullptr)));
     }
 
   private:
+    std::FILE* output_;
     pid_t process_;
-    int output_;
 };
 
 }  // namespace
 
 std::unique_ptr<RunningProgram> StartProgram(const std::string& program,
                                              const std::vector<std::string>& words) {
-    const std::string path = BRASK_BIN "/" + program;
-    std::vector<std::string> all{path};
-    all.insert(all.end(), words.begin(), words.end());
-    std::vector<char*> pointers;
-    pointers.reserve(all.size() + 1);
-    for (std::string& word : all) pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    int ends[2] = {-1, -1};
-    if (pipe(ends) != 0) return std::make_unique<Child>(0, -1);
-    const pid_t process = fork();
-    if (process == 0) {
-        dup2(ends[1], STDOUT_FILENO);
-        close(ends[0]);
-        close(ends[1]);
-        execv(path.c_str(), pointers.data());
-        _exit(127);
-    }
-    close(ends[1]);
-    return std::make_unique<Child>(process, ends[0]);
+    return std::make_unique<Child>("echo $$; " + CommandOf(program, words));
 }
 
 int RunToEnd(const std::string& program, const std::vector<std::string>& words,
              const ProgramStreams& streams) {
-    std::string command = "exec '" BRASK_BIN "/" + program + "'";
-    // in single quotes a shell changes nothing; no word of these tests holds one
-    for (const std::string& word : words) command += " '" + word + "'";
-    command += " </dev/null >'" + streams.Out + "' 2>'" + streams.Error + "'";
-    const int state = std::system(command.c_str());
-    return WIFEXITED(state) ? WEXITSTATUS(state) : -1;
+    const std::string command = CommandOf(program, words);
+    return StatusOf(
+        std::system((command + " >'" + streams.Out + "' 2>'" + streams.Error + "'").c_str()));
 }
 
 void LiveIn(const std::string& home) {

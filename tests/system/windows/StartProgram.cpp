@@ -11,22 +11,26 @@ namespace {
 
 using windows::Handle;
 
-// The streams of a program; its standard input is empty.
-STARTUPINFOW With(const Handle& in, const Handle& out, const Handle& error) {
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdInput = in.Get();
-    start.hStdOutput = out.Get();
-    start.hStdError = error.Get();
-    return start;
+// A file that the started program may use.
+Handle Inherited(const std::string& path, DWORD access, DWORD creation) {
+    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
+    return Handle(CreateFileW(windows::NativePath(path).c_str(), access,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE, &inherit, creation,
+                              FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
-// Null when the program cannot be started.
-Handle Start(const std::string& program, const std::vector<std::string>& words,
-             STARTUPINFOW streams) {
+// Null when the program cannot be started; its standard input is empty.
+Handle Start(const std::string& program, const std::vector<std::string>& words, const Handle& out,
+             const Handle& error) {
     const std::string file = BRASK_BIN "/" + program + ".exe";
     std::wstring line = windows::CommandLineOf(file, words);
+    const Handle in = Inherited("NUL", GENERIC_READ, OPEN_EXISTING);
+    STARTUPINFOW streams{};
+    streams.cb = sizeof streams;
+    streams.dwFlags = STARTF_USESTDHANDLES;
+    streams.hStdInput = in.Get();
+    streams.hStdOutput = out.Get();
+    streams.hStdError = error.Get();
     PROCESS_INFORMATION started{};
     // a group of its own, so that an interrupt reaches it alone
     if (CreateProcessW(windows::NativePath(file).c_str(), line.data(), nullptr, nullptr, TRUE,
@@ -41,14 +45,6 @@ int StatusOf(const Handle& process) {
     DWORD status = 0;
     WaitForSingleObject(process.Get(), INFINITE);
     return GetExitCodeProcess(process.Get(), &status) != 0 ? static_cast<int>(status) : -1;
-}
-
-// A file that the started program may use.
-Handle Inherited(const std::string& path, DWORD access, DWORD creation) {
-    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
-    return Handle(CreateFileW(windows::NativePath(path).c_str(), access,
-                              FILE_SHARE_READ | FILE_SHARE_WRITE, &inherit, creation,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 class Child final : public RunningProgram {
@@ -82,10 +78,9 @@ class Child final : public RunningProgram {
 
 int RunToEnd(const std::string& program, const std::vector<std::string>& words,
              const ProgramStreams& streams) {
-    const Handle in = Inherited("NUL", GENERIC_READ, OPEN_EXISTING);
     const Handle out = Inherited(streams.Out, GENERIC_WRITE, CREATE_ALWAYS);
     const Handle error = Inherited(streams.Error, GENERIC_WRITE, CREATE_ALWAYS);
-    const Handle process = Start(program, words, With(in, out, error));
+    const Handle process = Start(program, words, out, error);
     return process.Open() ? StatusOf(process) : -1;
 }
 
@@ -99,9 +94,8 @@ std::unique_ptr<RunningProgram> StartProgram(const std::string& program,
     // what the program would inherit of our end would keep the pipe open
     SetHandleInformation(ours, HANDLE_FLAG_INHERIT, 0);
     const Handle out(its);
-    const Handle in = Inherited("NUL", GENERIC_READ, OPEN_EXISTING);
     const Handle error = Inherited("NUL", GENERIC_WRITE, OPEN_EXISTING);
-    return std::make_unique<Child>(Start(program, words, With(in, out, error)), std::move(output));
+    return std::make_unique<Child>(Start(program, words, out, error), std::move(output));
 }
 
 // Folders and settings are the system's, so the traces of the test before are removed; but only

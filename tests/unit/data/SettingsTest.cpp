@@ -3,23 +3,20 @@
 
 #include <tuple>
 
-#include "SettingsFixture.h"
+#include "Surroundings.h"
 #include "data/PlotColors.h"
 #include "data/ProgramOptions.h"
 #include "data/RecentFiles.h"
 #include "data/SettingsTable.h"
-#include "platform/simulated/ScriptedUserInterface.h"
 
 namespace brask {
 namespace {
 
 using testing::ElementsAre;
 
-class SettingsTest : public testing::Test, protected SettingsInMemory {
+class SettingsTest : public testing::Test, protected Surroundings {
   protected:
-    ProgramOptions Load() { return LoadProgramOptions(Options, user_, EnglishTexts()); }
-
-    ScriptedUserInterface user_;
+    ProgramOptions Load() { return LoadProgramOptions(Options, User, Words); }
 };
 
 TEST(ColorValue, TextsOfColours) {
@@ -53,7 +50,6 @@ TEST_F(SettingsTest, OddNumbersIndexesAndFlags) {
     EXPECT_FALSE(options.AutoClear) << "YES is tested";
     EXPECT_TRUE(options.UserDirectoryActive) << "here NO is tested";
     EXPECT_FALSE(options.CursorStyle);
-    EXPECT_EQ(Known.Values.size(), 7U) << "stored texts stay as they are";
     for (const double index : {-1.0, 7.0, 0.5, 1e300}) EXPECT_FALSE(CursorStyleOf(index));
 }
 

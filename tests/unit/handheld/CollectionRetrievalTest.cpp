@@ -46,7 +46,7 @@ TEST(CollectionRetrieval, CopiesAndDeletesInOrderAndKeepsCompanions) {
 
 TEST(CollectionRetrieval, SecondOfTwoEqualNamesIsKeptBeforeTheFirstOnesDeletionTakesIt) {
     Retrieval run;
-    run.Store.Values["NotifyUserOfNewFiles"] = "NO";
+    run.Known.Values["NotifyUserOfNewFiles"] = "NO";
     run.Handheld.Contents = {{Pda("A.csv"), "first"}, {Ppc("A.csv"), "second"}};
     run.Disk.Contents[OnPc("A.csv")] = "older";
     run.Run();

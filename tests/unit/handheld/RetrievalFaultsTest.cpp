@@ -20,15 +20,13 @@ FileMap Numbered(std::initializer_list<std::string> paths) {
 }
 
 std::vector<FileMap> Layouts() {
-    const std::string pda = kPda;
-    const std::string ppc = kPpc;
-    return {Numbered({pda + "A.csv"}), Numbered({pda + "A.csv", pda + "A.col"}),
-            Numbered({ppc + "A.csv", ppc + "A.col", pda + "B.csv"}),
-            Numbered({pda + "A.csv", ppc + "A.csv"}),
-            Numbered({pda + "A.csv", pda + "A.col", ppc + "A.csv", ppc + "A.col"}),
-            Numbered({pda + "A.col", ppc + "A.csv"}),
+    return {Numbered({kPda + "A.csv"}), Numbered({kPda + "A.csv", kPda + "A.col"}),
+            Numbered({kPpc + "A.csv", kPpc + "A.col", kPda + "B.csv"}),
+            Numbered({kPda + "A.csv", kPpc + "A.csv"}),
+            Numbered({kPda + "A.csv", kPda + "A.col", kPpc + "A.csv", kPpc + "A.col"}),
+            Numbered({kPda + "A.col", kPpc + "A.csv"}),
             // two names that become one on the PC, and a name that is taken among the kept
-            Numbered({pda + "A?.csv", pda + "A_.csv", "\\VEK kept\\A?.csv"})};
+            Numbered({kPda + "A?.csv", kPda + "A_.csv", "\\VEK kept\\A?.csv"})};
 }
 
 // What fails in one run: operations of the handheld and of the disk.
@@ -52,7 +50,7 @@ class RetrievalFaults : public testing::Test {
         originals["an older file of the PC"] = "old";
         run.Handheld.Contents = layout;
         run.Handheld.Folders.insert("\\VEK kept");
-        run.Disk.Contents[std::string(kPcDirectory) + "A.csv"] = "old";
+        run.Disk.Contents[kPcDirectory + "A.csv"] = "old";
         run.Handheld.How = faults.How;
         run.Handheld.FailAt = faults.Handheld;
         run.Handheld.FailForGood = faults.HandheldForGood;

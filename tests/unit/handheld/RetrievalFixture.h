@@ -6,28 +6,20 @@
 #include <string>
 #include <vector>
 
+#include "../data/Surroundings.h"
 #include "handheld/CollectionRetrieval.h"
-#include "platform/simulated/FixedSystemInformation.h"
-#include "platform/simulated/FixedUserLocale.h"
-#include "platform/simulated/ManualClock.h"
-#include "platform/simulated/MemoryFiles.h"
-#include "platform/simulated/MemorySettingsStore.h"
 #include "platform/simulated/ScriptedHandheld.h"
-#include "platform/simulated/ScriptedUserInterface.h"
 
 namespace brask {
 
-inline constexpr const char* kPda = "\\TalvexPDA\\collections\\";
-inline constexpr const char* kPpc = "\\TalvexPPC\\collections\\";
-inline constexpr const char* kPcDirectory = "/b/VEK/From PocketPC/";
+inline const std::string kPda = "\\TalvexPDA\\collections\\";
+inline const std::string kPpc = "\\TalvexPPC\\collections\\";
+inline const std::string kPcDirectory = "/b/VEK/From PocketPC/";
 
-struct Retrieval : RetrievalView {
+struct Retrieval : Surroundings, RetrievalView {
     ScriptedHandheld Handheld;
-    MemoryFiles Disk;
-    ScriptedUserInterface User;
     HandheldAddress Address{true, ""};
     CollectSession Session;
-    MemorySettingsStore Store;
     std::vector<std::string> Lines;  // what stood above the grid
     RetrievalOutcome Outcome = RetrievalOutcome::kDone;
     std::vector<RetrievalRow> Rows;
@@ -40,10 +32,10 @@ struct Retrieval : RetrievalView {
     void ShowStatus(const std::string& text) override { Lines.push_back(text); }
 
     void Run() {
-        RecoveryFolder recovery(Disk, time_, Directories);
-        DiagnosticLog log(Disk, time_);
+        RecoveryFolder recovery(Disk, Clock, Directories);
+        DiagnosticLog log(Disk, Clock);
         CollectionRetrieval retrieval(
-            {Handheld, Disk, User, words_, information_, Directories, recovery, log}, Address,
+            {Handheld, Disk, User, Words, Information, Directories, recovery, log}, Address,
             Options, Session, *this);
         Outcome = retrieval.Run();
         Rows = retrieval.Rows();
@@ -70,14 +62,7 @@ struct Retrieval : RetrievalView {
         return gone;
     }
 
-  private:
-    ManualClock time_;
-    EnglishTexts words_;
-    FixedUserLocale locale_;
-    FixedSystemInformation information_;
-    MemorySettingsStore own_;
-    Settings Options{Store, own_, locale_, [](const auto&, const auto&) {}};
-    DataDirectories Directories{Disk, User, words_};
+    DataDirectories Directories{Disk, User, Words};
 };
 
 }  // namespace brask

@@ -9,15 +9,11 @@ namespace {
 // Every fault at every place it can happen; each table prints how many cases had which outcome.
 class DownloadFaults : public testing::Test {
   protected:
-    ~DownloadFaults() override {
+    void TearDown() override {
         for (const auto& [outcome, count] : outcomes_) {
             std::printf("%6d x %s\n", count, outcome.c_str());
         }
     }
-    DownloadFaults() = default;
-    DownloadFaults(const DownloadFaults&) = delete;
-    DownloadFaults& operator=(const DownloadFaults&) = delete;
-
     // The outcome in words; what holds for each is checked on the way.
     std::string Outcome(Download& download, DownloadOptions options = {}) {
         const DownloadReport report = download.Run(options);
@@ -37,11 +33,8 @@ class DownloadFaults : public testing::Test {
         ++outcomes_[outcome];
         return outcome;
     }
-    // The outcomes and their numbers so far.
-    const std::map<std::string, int>& Outcomes() const { return outcomes_; }
 
-  private:
-    std::map<std::string, int> outcomes_;
+    std::map<std::string, int> outcomes_;  // and their numbers so far
 };
 
 TEST_F(DownloadFaults, StreamCutAfterEveryByte) {
@@ -104,10 +97,7 @@ TEST_F(DownloadFaults, CancelAtEveryTurnOfTheEvents) {
             download.Link.ListWaits = 2;
             download.Link.ConnectWaits = 2;
             download.Link.Arrivals.push_front({});
-            download.Link.OnSend = [&download](const std::string& bytes) {
-                if (bytes.find("[CLEAR]") == std::string::npos) return;
-                download.Link.Arrivals = {{}, {std::string("\0[OK]", 5)}};
-            };
+            download.AnswersToClear = {{}, {std::string("\0[OK]", 5)}};
             DownloadSession session(download.Link, download.System(), download.Data(),
                                     download.View, {clears, {}});
             int turns = 0;
@@ -150,23 +140,12 @@ TEST_F(DownloadFaults, EveryDeviceCountAndConnectError) {
         Download download;
         download.Link.ConnectErrors = {error};
         download.User.Answers = {true};
-        const std::string text = download.Information.ErrorText(error);
-        EXPECT_EQ(Outcome(download), text.empty() ? "cancelled" : "accepted");
-        ASSERT_EQ(download.User.Shown.size(), 1U);
-        // with the places of the message filled in
-        const EnglishTexts words;
-        const std::string number = std::to_string(error);
-        const TextRow unknown("",
-                              "Socket Connect Error is Unknown\r\nError=%1\r\n"
-                              "Connect to K42 is aborted");
-        const TextRow known("",
-                            "Error Description:%2\r\nError Number:%1\r\n[Connect]\r\n"
-                            "(Cancel Ends Program)");
-        EXPECT_EQ(download.User.ShownTexts()[0],
-                  words.Fill(text.empty() ? unknown : known, {number, text}));
+        const bool known = !download.Information.ErrorText(error).empty();
+        EXPECT_EQ(Outcome(download), known ? "accepted" : "cancelled");
+        EXPECT_EQ(download.User.Shown.size(), 1U);
     }
     // how many numbers have a text differs from one C library to the other
-    EXPECT_GT(Outcomes().at("accepted"), 30);
+    EXPECT_GT(outcomes_.at("accepted"), 30);
 }
 
 TEST_F(DownloadFaults, EveryFailureOfTheDisk) {
@@ -179,10 +158,7 @@ TEST_F(DownloadFaults, EveryFailureOfTheDisk) {
             download.Disk.FailAt = at;
             download.Disk.FailForGood = forGood;
             download.Disk.NoMove = at % 2 == 1;
-            download.Link.OnSend = [&download](const std::string& bytes) {
-                if (bytes.find("[CLEAR]") == std::string::npos) return;
-                download.Link.Arrivals = {{std::string("\0[OK]", 5)}};
-            };
+            download.AnswersToClear = {{std::string("\0[OK]", 5)}};
             const std::string outcome = Outcome(download, {true, {}});
             untouched = download.Disk.Operations <= at;
             if (untouched) {

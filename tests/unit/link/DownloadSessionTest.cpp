@@ -14,7 +14,6 @@ TEST(DownloadSession, ShowsItsStepsAndLeavesTheFileToOpen) {
     const DownloadReport report = download.Run();
     EXPECT_TRUE(report.Accepted);
     EXPECT_EQ(report.File, kFiledName);
-    EXPECT_EQ(download.Collect.ReceivedFile, kFiledName);
     EXPECT_EQ(download.Collect.State, CollectState::kFinished);
     EXPECT_EQ(download.Disk.Contents[kFiledName], kDataFile);
     EXPECT_EQ(download.User.Notices, std::vector{"Data file saved: " + kFiledName});
@@ -64,10 +63,10 @@ TEST(DownloadSession, ClearAnswers) {
         "Talvex© K42 did not clear data\r\nPlease clear the data on the Talvex© K42 manually!";
     const std::string noAnswer =
         "Clear Data Acknowledge Not Received!\r\nPlease Clear The Data In The Talvex© K42";
-    using Arrival = ScriptedInfraredSockets::Arrival;
+    using Arrivals = std::deque<ScriptedInfraredSockets::Arrival>;
     // the setting, the option, what comes; whether it counts as cleared, the message, the wait
-    using Case = std::tuple<std::string, std::optional<bool>, std::vector<Arrival>, bool,
-                            std::string, std::int64_t>;
+    using Case =
+        std::tuple<std::string, std::optional<bool>, Arrivals, bool, std::string, std::int64_t>;
     const Case cases[] = {
         {"YES", {}, {{Block("[OK]")}}, true, cleared, 0},
         {"maybe", {}, {{}, {Block("x[OK]y")}}, true, cleared, 50},
@@ -80,12 +79,8 @@ TEST(DownloadSession, ClearAnswers) {
         {"YES", false, {{Block("[OK]")}}, false, "", 0}};
     for (const auto& [setting, option, answer, isCleared, message, wait] : cases) {
         Download download;
-        download.Settings.Known.Values["AutoClear"] = setting;
-        const std::vector<Arrival>& arrivals = answer;
-        download.Link.OnSend = [&download, &arrivals](const std::string& bytes) {
-            if (bytes != Block("[CLEAR]")) return;
-            download.Link.Arrivals.assign(arrivals.begin(), arrivals.end());
-        };
+        download.Known.Values["AutoClear"] = setting;
+        download.AnswersToClear = answer;
         const DownloadReport report = download.Run({option, {}});
         EXPECT_TRUE(report.Accepted);
         EXPECT_EQ(report.Cleared, isCleared);
@@ -103,9 +98,7 @@ TEST(DownloadSession, ABrokenLinkEndsTheProgramAndTheBytesAreKept) {
     download.Link.Arrivals.push_back({"", false, 5});
     download.Run();
     EXPECT_TRUE(download.User.Ended());
-    ASSERT_EQ(download.User.Shown.size(), 1U);
-    EXPECT_EQ(download.User.Shown[0].Title, "Receive Data Failure (1)");
-    EXPECT_EQ(download.User.Shown[0].Text, download.Information.ErrorText(5));
+    EXPECT_EQ(download.User.ShownTexts(), std::vector{download.Information.ErrorText(5)});
     EXPECT_EQ(download.Collect.State, CollectState::kCancelled);
     EXPECT_EQ(download.Recovery.List().size(), 1U);
 }

@@ -6,13 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "../data/SettingsFixture.h"
+#include "../data/Surroundings.h"
 #include "link/DownloadSession.h"
-#include "platform/simulated/FixedSystemInformation.h"
-#include "platform/simulated/ManualClock.h"
-#include "platform/simulated/MemoryFiles.h"
 #include "platform/simulated/ScriptedInfraredSockets.h"
-#include "platform/simulated/ScriptedUserInterface.h"
 
 namespace brask {
 
@@ -55,12 +51,15 @@ inline std::deque<ScriptedInfraredSockets::Arrival> Blocks(const std::string& st
     return arrivals;
 }
 
-struct Download {
+struct Download : Surroundings {
     Download() {
         Link.Devices = DeviceNamed("VEK TK42");
         Link.Arrivals = Blocks(kStream, 64);
+        Link.OnSend = [this](const std::string& bytes) {
+            if (bytes.ends_with("[CLEAR]")) Link.Arrivals = AnswersToClear;
+        };
         Directories.OverrideBase("/data");
-        Directories.ResolveDataDirectories(Settings.Options, WindowsKind::kNotClassified);
+        Directories.ResolveDataDirectories(Options, WindowsKind::kNotClassified);
     }
 
     DownloadReport Run(DownloadOptions options = {}) {
@@ -73,7 +72,7 @@ struct Download {
     }
 
     LinkSystem System() { return {User, Words, Disk, Information, Clock}; }
-    LinkData Data() { return {Collect, Directories, Settings.Options, Log, Expander, Recovery}; }
+    LinkData Data() { return {Collect, Directories, Options, Log, Expander, Recovery}; }
     bool Sent(const std::string& command) const {
         return std::count(Link.Sent.begin(), Link.Sent.end(), std::string(1, '\0') + command) > 0;
     }
@@ -84,13 +83,8 @@ struct Download {
         void OnDownload(const DownloadDisplay& display) override { All.push_back(Last = display); }
     };
 
-    ManualClock Clock;
-    MemoryFiles Disk;
-    ScriptedUserInterface User;
-    EnglishTexts Words;
-    FixedSystemInformation Information;
-    SettingsInMemory Settings;
     ScriptedInfraredSockets Link{Clock};
+    std::deque<ScriptedInfraredSockets::Arrival> AnswersToClear;
     CollectSession Collect;
     DataDirectories Directories{Disk, User, Words};
     DiagnosticLog Log{Disk, Clock};

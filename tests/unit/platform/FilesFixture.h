@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -42,6 +43,14 @@ class FilesTest : public testing::Test {
     Files& disk_ = system_.Disk();
     std::string directory_;
 };
+
+// What was written to a temporary file.
+inline std::string WrittenTo(std::FILE* file) {
+    std::string text(static_cast<std::size_t>(std::ftell(file)), '\0');
+    std::rewind(file);
+    text.resize(std::fread(text.data(), 1, text.size(), file));
+    return text;
+}
 
 // The number of the error; -1 for success.
 int ErrorOf(const auto& result) { return result.Ok() ? -1 : result.Why().Number; }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 #include "platform/simulated/InfraredFrames.h"
@@ -52,15 +53,14 @@ TEST(InfraredFrames, AStreamMeansTheSameWhereverItIsCut) {
 }
 
 TEST(InfraredFrames, WhatIsNoFrameIsAnErrorThatStays) {
-    const struct {
-        std::string Bytes;
-        bool Failed, Partial;
-    } cases[] = {{"d", true, true},          // its type is the first thing wrong
-                 {"D\x20\x01", true, true},  // 8193
-                 {"D\x20", false, true},     // may still become 8192
-                 {"D\0\2a"s, false, true},
-                 {"D\0\0"s, false, false},
-                 {EncodeFrame(FrameType::kData, "x") + "?", true, true}};
+    // the bytes; whether they fail, whether a frame is yet to end
+    const std::tuple<std::string, bool, bool> cases[] = {
+        {"d", true, true},          // its type is the first thing wrong
+        {"D\x20\x01", true, true},  // 8193
+        {"D\x20", false, true},     // may still become 8192
+        {"D\0\2a"s, false, true},
+        {"D\0\0"s, false, false},
+        {EncodeFrame(FrameType::kData, "x") + "?", true, true}};
     for (const auto& [bytes, failed, partial] : cases) {
         const Decoded decoded = Decode({bytes, !failed ? "" : "D\0\1x"s});
         EXPECT_EQ(decoded.Failed, failed) << testing::PrintToString(bytes);

@@ -83,14 +83,6 @@ TEST_F(NativeFiles, DirectoryChains) {
     EXPECT_NE(ErrorOf(disk_.MakeDirectoryChain(file + "/below")), -1);
 }
 
-TEST_F(NativeFiles, TheLockHoldsOffOthersUntilItIsGivenBack) {
-    auto held = disk_.Lock(At("lock"));
-    ASSERT_TRUE(held.Ok());
-    held = Error{0, "given back"};
-    EXPECT_TRUE(disk_.Lock(At("lock")).Ok());
-    EXPECT_TRUE(disk_.Exists(At("lock")));
-}
-
 TEST_F(NativeFiles, AbsolutePathsLoseTheirDetours) {
     const std::string file = Make("file", "");
     EXPECT_EQ(disk_.Absolute(At("a/../file")), file);

@@ -13,26 +13,21 @@ auto Patiently(Attempt attempt) {
     return result;
 }
 
-struct Pair {
-    std::unique_ptr<TcpStream> Near, Far;
-};
-
 // A listener on a free loopback port and one connection to it.
 class NativeTcp : public testing::Test {
   protected:
-    NativeTcp() : listener_(std::move(tcp_.Listen({"127.0.0.1", 0}).Value())) {}
-
-    Pair Connect(const std::string& host = "127.0.0.1") {
-        Pair pair{std::move(tcp_.Connect({host, listener_->Port()}).Value()), nullptr};
-        EXPECT_TRUE(Patiently([&] { return pair.Near->Connected(kLongestTcpWait).Value(); }));
-        pair.Far = Patiently([&] { return std::move(listener_->Accept(kLongestTcpWait).Value()); });
-        EXPECT_NE(pair.Far, nullptr);
-        return pair;
+    void Connect(const std::string& host) {
+        near_ = std::move(tcp_.Connect({host, listener_->Port()}).Value());
+        EXPECT_TRUE(Patiently([&] { return near_->Connected(kLongestTcpWait).Value(); }));
+        far_ = Patiently([&] { return std::move(listener_->Accept(kLongestTcpWait).Value()); });
+        ASSERT_NE(far_, nullptr);
     }
 
     NativeSystem system_;
     Tcp& tcp_ = system_.Network();
-    std::unique_ptr<TcpListener> listener_;
+    std::unique_ptr<TcpListener> listener_ = std::move(tcp_.Listen({"127.0.0.1", 0}).Value());
+    std::unique_ptr<TcpStream> near_;
+    std::unique_ptr<TcpStream> far_;
 };
 
 TEST(TcpAddresses, AreReadAndWrittenAlike) {
@@ -49,43 +44,43 @@ TEST(TcpAddresses, AreReadAndWrittenAlike) {
 }
 
 TEST_F(NativeTcp, BytesArriveWholeAndInOrderThroughABufferThatFills) {
-    Pair pair = Connect();
+    Connect("127.0.0.1");
     std::string sent;
-    while (pair.Near->Writable() && sent.size() < 100'000'000) {
+    while (near_->Writable() && sent.size() < 100'000'000) {
         std::string block(60'000, '\0');
         for (char& c : block) c = static_cast<char>(&c - block.data() + sent.size() / 7);
-        const auto taken = pair.Near->Send(block, 0);
+        const auto taken = near_->Send(block, 0);
         ASSERT_TRUE(taken.Ok());
         sent += block.substr(0, taken.Value());
     }
-    EXPECT_EQ(pair.Near->Send("x", 0).Value(), 0U);
+    EXPECT_EQ(near_->Send("x", 0).Value(), 0U);
     std::string received;
     while (received.size() < sent.size()) {
-        const auto got = pair.Far->Receive(70'000, kLongestTcpWait);
+        const auto got = far_->Receive(70'000, kLongestTcpWait);
         ASSERT_TRUE(got.Ok() && !got.Value().Closed);
         received += got.Value().Bytes;
     }
     EXPECT_TRUE(received == sent);
-    EXPECT_TRUE(pair.Near->Writable());
+    EXPECT_TRUE(near_->Writable());
 }
 
 TEST_F(NativeTcp, ClosingIsSeenAfterTheLastByteAndSendingThenFailsWithoutASignal) {
-    Pair pair = Connect("localhost");
-    EXPECT_EQ(pair.Far->Receive(10, 0).Value().Closed, false);
-    ASSERT_EQ(pair.Near->Send("bye", kLongestTcpWait).Value(), 3U);
-    ASSERT_TRUE(pair.Near->Close().Ok());
-    EXPECT_EQ(pair.Near->Send("x", 0).Value(), 0U);
+    Connect("localhost");
+    EXPECT_FALSE(far_->Receive(10, 0).Value().Closed);
+    ASSERT_EQ(near_->Send("bye", kLongestTcpWait).Value(), 3U);
+    ASSERT_TRUE(near_->Close().Ok());
+    EXPECT_EQ(near_->Send("x", 0).Value(), 0U);
     std::string received;
     bool closed = false;
     Patiently([&] {
-        const auto got = pair.Far->Receive(2, kLongestTcpWait);
+        const auto got = far_->Receive(2, kLongestTcpWait);
         received += got.Value().Bytes;
         return closed = got.Value().Closed;
     });
     EXPECT_EQ(received, "bye");
     ASSERT_TRUE(closed);
     const int error = Patiently([&] {
-        const auto sent = pair.Far->Send("x", kLongestTcpWait);
+        const auto sent = far_->Send("x", kLongestTcpWait);
         return sent.Ok() ? 0 : sent.Why().Number;
     });
     EXPECT_NE(error, 0);

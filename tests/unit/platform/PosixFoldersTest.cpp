@@ -1,11 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <tuple>
-#include <vector>
 
+#include "FilesFixture.h"
 #include "platform/posix/PosixFolders.h"
 #include "platform/posix/PosixSystemInformation.h"
 #include "platform/posix/PosixUserLocale.h"
@@ -38,9 +35,10 @@ TEST(XdgFolder, BaseDirectories) {
     }
 }
 
-TEST(XdgFolder, DocumentsAsTheUserNamedThem) {
-    std::string home = (std::filesystem::temp_directory_path() / "brask-home-XXXXXX").string();
-    ASSERT_NE(::mkdtemp(home.data()), nullptr);
+using XdgFolders = FilesTest;
+
+TEST_F(XdgFolders, DocumentsAsTheUserNamedThem) {
+    const std::string& home = directory_;
     const std::pair<std::string, std::string> cases[] = {
         {"XDG_DESKTOP_DIR=\"$HOME/Desk\"\nXDG_DOCUMENTS_DIR=\"$HOME/Papers/\"\n", home + "/Papers"},
         {"XDG_DOCUMENTS_DIR=\"/srv/papers\"\n", "/srv/papers"},
@@ -53,7 +51,6 @@ TEST(XdgFolder, DocumentsAsTheUserNamedThem) {
         const Variables variables = {{"HOME", home}, {"XDG_CONFIG_HOME", home}};
         EXPECT_EQ(Folder(KnownFolder::kUserDocuments, variables), documents) << list;
     }
-    std::filesystem::remove_all(home);
 }
 
 TEST(DateOrderOfFormat, OrdersOfRealLocales) {

@@ -1,8 +1,6 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <memory>
 
+#include "FilesFixture.h"
 #include "platform/ProgramError.h"
 #include "platform/Texts.h"
 #include "platform/console/ConsoleUserInterface.h"
@@ -46,12 +44,7 @@ class Console {
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
-    std::string Written() {
-        std::string text(static_cast<std::size_t>(std::ftell(out_)), '\0');
-        std::rewind(out_);
-        text.resize(std::fread(text.data(), 1, text.size(), out_));
-        return text;
-    }
+    std::string Written() { return WrittenTo(out_); }
 
   private:
     std::FILE* out_ = std::tmpfile();
@@ -67,17 +60,13 @@ TEST(ConsoleUserInterface, MessagesKeepTheirLinesAndTakeTheSafeAnswer) {
     EXPECT_FALSE(console.User->AskYesNo({"Title", "Sure?"}));
     EXPECT_FALSE(console.User->AskRetry({"Title", "Again?"}));
     EXPECT_TRUE(console.User->ShowRepeatedMessage({"Title", "one of many"}));
-    console.User->ShowNotice("only a notice");
-    EXPECT_EQ(console.Written(), "first\nsecond\nSure?\nAgain?\none of many\nonly a notice\n");
+    // bytes of files cannot command the terminal
+    console.User->ShowNotice("a\x1B]0;x\a\tb\x7F \xC2\x9B °C");
+    EXPECT_EQ(console.Written(),
+              "first\nsecond\nSure?\nAgain?\none of many\na\uFFFD]0;x\uFFFD\tb\uFFFD \uFFFD °C\n");
     EXPECT_THAT(console.User->Messages(),
                 testing::ElementsAre("first\r\nsecond", "Sure?", "Again?", "one of many"));
     EXPECT_TRUE(Console(true).User->AskYesNo({"Title", "Sure?"}));
-}
-
-TEST(ConsoleUserInterface, BytesOfFilesCannotCommandTheTerminal) {
-    Console console(false);
-    console.User->ShowMessage({"", "a\x1B]0;x\a\tb\x7F \xC2\x9B °C"});
-    EXPECT_EQ(console.Written(), "a\uFFFD]0;x\uFFFD\tb\uFFFD \uFFFD °C\n");
 }
 
 TEST(ConsoleUserInterface, ProgressIsRareAndGoesAwayBeforeAMessage) {

@@ -64,9 +64,11 @@ TEST_F(WindowsFilesTest, AReadOnlyFileIsRefusedBeforeAnythingIsWritten) {
 }
 
 TEST_F(WindowsFilesTest, TheLockHoldsOffOthers) {
-    const auto held = disk_.Lock(At("lock"));
+    auto held = disk_.Lock(At("lock"));
     ASSERT_TRUE(held.Ok());
     EXPECT_FALSE(WindowsFiles(std::chrono::milliseconds(0)).Lock(At("lock")).Ok());
+    held = Error{0, "given back"};
+    EXPECT_TRUE(disk_.Lock(At("lock")).Ok());
 }
 
 TEST_F(WindowsFilesTest, FoldersAreThoseOfTheSystem) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <shellapi.h>
 
+#include <tuple>
 #include <vector>
 
 #include "platform/SystemInformation.h"
@@ -104,26 +105,20 @@ TEST(WindowsSystemInformation, TextsOfTheSystem) {
 
 TEST(WindowsUserLocale, CountriesDiffer) {
     using enum LongDateOrder;
-    struct Case {
-        const char* Name;
-        LongDateOrder Order;
-        char DecimalSign;
-        const char* DateSeparator;
-        const char* Sunday;
-    };
-    const Case cases[] = {
+    // the name, the order of dates, the decimal sign, what stands between parts of dates, Sunday
+    const std::tuple<const char*, LongDateOrder, char, const char*, const char*> cases[] = {
         {"en-US", kMonthDayYear, '.', "/", "Sunday"},
         {"de-DE", kDayMonthYear, ',', ".", "Sonntag"},
         {"ja-JP", kYearMonthDay, '.', "/", "\xE6\x97\xA5\xE6\x9B\x9C\xE6\x97\xA5"},
         {"no such", kMonthDayYear, '.', "/", "Sunday"}};
-    for (const Case& expected : cases) {
-        const WindowsUserLocale locale(expected.Name);
-        EXPECT_EQ(locale.DateOrder(), expected.Order) << expected.Name;
-        EXPECT_EQ(locale.DecimalSign(), expected.DecimalSign) << expected.Name;
+    for (const auto& [name, order, decimalSign, separator, sunday] : cases) {
+        const WindowsUserLocale locale(name);
+        EXPECT_EQ(locale.DateOrder(), order) << name;
+        EXPECT_EQ(locale.DecimalSign(), decimalSign) << name;
         const std::string date = locale.ShortDate({2003, 1, 5});
-        EXPECT_NE(date.find(expected.DateSeparator), std::string::npos) << date;
+        EXPECT_NE(date.find(separator), std::string::npos) << date;
         EXPECT_NE(date.find("2003"), std::string::npos) << date;
-        EXPECT_EQ(locale.DayNames()[0], expected.Sunday) << expected.Name;
+        EXPECT_EQ(locale.DayNames()[0], sunday) << name;
     }
     const WindowsUserLocale locale("en-US");
     EXPECT_EQ(locale.LongTime({{100, 1, 5}, 13, 5, 9}), "1:05:09 PM");

@@ -71,36 +71,23 @@ std::string StreamOf(const std::vector<std::string>& frames) {
                            });
 }
 
-InstrumentBehaviour With(auto set) {
-    InstrumentBehaviour behaviour;
-    set(behaviour);
-    return behaviour;
-}
-
 TEST(SimulatedConnection, FaultsOfTheStream) {
-    using B = InstrumentBehaviour;
     std::string filled = kStream;
     filled.insert(64, 1, '\0').insert(32, 1, '\0');
     std::string corrupt = kStream;
     corrupt[16] = '@';
     const std::string dropped = kHead + kLine + "\xA5" + kEnd;
     const std::string counted = kHead + kLine + "\xA5\xA5" + "END DATA:12345678\r\n";
-    const struct {
-        InstrumentBehaviour Behaviour;
-        std::string Stream;
-        std::string LastNote;
-    } cases[] = {
+    // the behaviour, the stream, the last note
+    const std::tuple<InstrumentBehaviour, std::string, std::string> cases[] = {
         {{}, kStream, "sent 72 bytes"},
-        {With([](B& b) { b.Corrupt = 16; }), corrupt, "sent 72 bytes"},
-        {With([](B& b) { b.DropLine = 3; }), dropped, "sent 71 bytes"},
-        {With([](B& b) { b.Count = 12345678; }), counted, "sent 73 bytes"},
-        {With([](B& b) { b.Filler = 32; }), filled, "sent 74 bytes"},
-        {With([](B& b) { b.CutAfter = 20; }), kStream.substr(0, 20), "link cut after 20 bytes"},
-        {With([](B& b) { b.CutAfter = 0; }), "", "link cut after 0 bytes"},
-        {With([](B& b) { b.CutAfter = 73; }), kStream, "sent 72 bytes"},
-        {With([](B& b) { b.SilentAfter = 7; }), kStream.substr(0, 7), "silent after 7 bytes"},
-        {With([](B& b) { b.SilentAfter = 7, b.CutAfter = 3; }), kStream.substr(0, 3),
-         "link cut after 3 bytes"},
+        {{.Corrupt = 16}, corrupt, "sent 72 bytes"},
+        {{.DropLine = 3}, dropped, "sent 71 bytes"},
+        {{.Count = 12345678}, counted, "sent 73 bytes"},
+        {{.Filler = 32}, filled, "sent 74 bytes"},
+        {{.CutAfter = 20}, kStream.substr(0, 20), "link cut after 20 bytes"},
+        {{.CutAfter = 73}, kStream, "sent 72 bytes"},
+        {{.SilentAfter = 7}, kStream.substr(0, 7), "silent after 7 bytes"},
     };
     for (const auto& [behaviour, stream, note] : cases) {
         Link link(behaviour);
@@ -118,7 +105,7 @@ TEST(SimulatedConnection, EveryBlockSizeAndEveryJoinCarryTheSameStream) {
     const std::string stream = StreamOf(plain.Download());
     for (std::size_t block = 1; block <= 100; ++block) {
         for (const std::int64_t merge : {1, 3, 100000}) {
-            Link link(With([&](auto& b) { b.BlockSize = block, b.Merge = merge; }), file);
+            Link link({.BlockSize = block, .Merge = merge}, file);
             std::string joined;
             for (const std::string& frame : link.Download()) {
                 // every block begins with its control byte, also within a frame
@@ -133,24 +120,18 @@ TEST(SimulatedConnection, EveryBlockSizeAndEveryJoinCarryTheSameStream) {
 }
 
 TEST(SimulatedConnection, TheDeviceListIsWrittenAsSystemsWriteIt) {
-    const struct {
-        int Devices;
-        std::string Name, Last;
-    } cases[] = {{0, "", ""},
-                 {1, "VEK TK42", "VEK TK42"},
-                 {2, std::string(22, 'n'), "DEVICE 2"},
-                 {255, "x", "DEVICE 255"}};
-    for (const auto& [devices, name, last] : cases) {
-        Link link(
-            With([&, count = devices, text = name](auto& b) { b.Devices = count, b.Name = text; }));
-        const auto answers = link.Answers(FrameType::kDevices, "");
-        ASSERT_EQ(answers.size(), 1U);
-        const std::string list = answers[0].substr(1);
-        ASSERT_EQ(list.size(), 4 + 30U * static_cast<unsigned>(devices));
-        EXPECT_EQ(list.substr(0, 4), static_cast<char>(devices) + "\0\0\0"s);
-        if (devices == 0) continue;
-        EXPECT_EQ(list.substr(8, 23), name + std::string(23 - name.size(), '\0'));
-        EXPECT_EQ(list.substr(list.size() - 26), last + std::string(26 - last.size(), '\0'));
+    // how many, the first one's name, what the list ends with
+    const std::tuple<int, std::string, std::string> cases[] = {
+        {0, "", "\0\0\0\0"s},
+        {1, "VEK TK42", "VEK TK42" + std::string(18, '\0')},
+        {255, std::string(22, 'n'), "DEVICE 255" + std::string(16, '\0')}};
+    for (const auto& [devices, name, end] : cases) {
+        Link link({.Name = name, .Devices = devices});
+        const std::string list = link.Answers(FrameType::kDevices, "").at(0).substr(1);
+        EXPECT_EQ(list.size(), 4 + 30U * static_cast<unsigned>(devices));
+        EXPECT_TRUE(list.starts_with(static_cast<char>(devices) + "\0\0\0"s));
+        EXPECT_TRUE(list.ends_with(end)) << devices;
+        EXPECT_TRUE(devices == 0 || list.substr(8, name.size() + 1) == name + '\0');
     }
 }
 
@@ -166,33 +147,31 @@ TEST(SimulatedConnection, ConnectingAndCommandsThatMakeNoSense) {
     }
     EXPECT_FALSE(link->Take({FrameType::kConnect, kAddress.substr(1)}).Ok());
 
-    Link refusing(With([](auto& b) { b.Refuse = 0xFEDCBA98; }));
+    Link refusing({.Refuse = 0xFEDCBA98});
+    EXPECT_THAT(refusing.Download(), IsEmpty());
     EXPECT_THAT(refusing.Answers(FrameType::kConnect, kAddress), ElementsAre("C\xFE\xDC\xBA\x98"));
-    EXPECT_THAT(refusing.Answers(FrameType::kData, "\0[OUTPUT x"s), IsEmpty());
 }
 
 TEST(SimulatedConnection, ClearingEmptiesItOnlyWhenTheAnswerSaysSo) {
     const std::string empty = kHead + "END DATA:      0\r\n";
-    const struct {
-        std::optional<std::string> Answer;
-        std::vector<std::string> Frames;
-        std::string StreamAfter;
-    } cases[] = {{"[OK]", {"D\0[OK]"s}, empty},
-                 {"[ok]", {"D\0[ok]"s}, kStream},
-                 {std::nullopt, {}, kStream}};
+    // the answer, the frames that it comes in, the stream after it
+    using Case = std::tuple<std::optional<std::string>, std::vector<std::string>, std::string>;
+    const Case cases[] = {{"[OK]", {"D\0[OK]"s}, empty},
+                          {"[ok]", {"D\0[ok]"s}, kStream},
+                          {std::nullopt, {}, kStream}};
     for (const auto& [answer, frames, after] : cases) {
-        Link link(With([text = answer](auto& b) { b.ClearAnswer = text; }));
+        Link link({.ClearAnswer = answer});
         link.Download();
         EXPECT_EQ(link.Answers(FrameType::kData, "\0[CLEAR]"s), frames);
         EXPECT_EQ(StreamOf(link.Download()), after);
     }
-    Link silent(With([](auto& b) { b.SilentAfter = 3; }));
+    Link silent({.SilentAfter = 3});
     silent.Download();
     EXPECT_THAT(silent.Answers(FrameType::kData, "\0[CLEAR]"s), IsEmpty());
 }
 
 TEST(SimulatedConnection, PausesByTheClock) {
-    Link link(With([](auto& b) { b.DelayMilliseconds = 40, b.BlockSize = 30; }));
+    Link link({.BlockSize = 30, .DelayMilliseconds = 40});
     EXPECT_EQ(link.Download().size(), 1U);
     EXPECT_EQ(link->NextDue(), 40);
     link.clock_.Milliseconds += 39;
@@ -209,15 +188,11 @@ TEST(SimulatedConnection, PausesByTheClock) {
 
 TEST(SimulatedInstrument, FaultsThatTheFileHasNoRoomForAreRefused) {
     const EnglishTexts texts;
-    const auto reason = [&texts](auto set) {
-        const auto made = SimulatedInstrument::Create(kFile, With(set), texts);
-        return made.Ok() ? "" : made.Why().Reason;
-    };
-    EXPECT_EQ(reason([](auto& b) { b.DropLine = 4; }),
-              "there is no data line 4 to drop; the file has 3");
-    EXPECT_EQ(reason([](auto& b) { b.Corrupt = 71, b.DropLine = 3; }),
-              "there is no byte 71 to corrupt; the stream has 71, counted from 0");
-    EXPECT_EQ(reason([](auto& b) { b.Corrupt = 71; }), "");
+    EXPECT_TRUE(SimulatedInstrument::Create(kFile, {.Corrupt = 71}, texts).Ok());
+    // now the stream is one byte shorter
+    EXPECT_EQ(
+        SimulatedInstrument::Create(kFile, {.Corrupt = 71, .DropLine = 3}, texts).Why().Reason,
+        "there is no byte 71 to corrupt; the stream has 71, counted from 0");
 }
 
 }  // namespace
