@@ -1,15 +1,19 @@
-// The main window from start to loaded data: captions, states, options, files.
+// The main window from start to loaded data: captions, states, options, files; what a user's hand
+// meets in its menus and toolbar.
 #include <gmock/gmock.h>
 
 #include <QButtonGroup>
 #include <QDropEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
+#include <QSet>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
 
 #include "WindowFixture.h"
+#include "app/ToolbarTable.h"
 
 namespace brask {
 namespace {
@@ -26,42 +30,40 @@ using MainWindow = WindowFixture;
 TEST_F(MainWindow, StartsWithoutDataAndWritesTheDefaultColours) {
     Start();
     EXPECT_EQ(Caption(), std::string(kTitle) + " (no data loaded)");
-    EXPECT_FALSE(Item("mnuFileViewData")->isEnabled());
     EXPECT_FALSE(Find<TabControl>("SSTab1")->isTabEnabled(1));
     EXPECT_EQ(Store.Values["NumPlotColorsDefined"], "9");
-    EXPECT_TRUE(Disk.IsDirectory("/home/documents/VEK/From PocketPC"));
     EXPECT_TRUE(Disk.IsDirectory("/home/documents/VEK/From TalvexK42"));
-    // the loader pushes values into controls; none of them may write back what it was given
-    EXPECT_FALSE(Store.Values.contains("GraphType"));
-    EXPECT_FALSE(Store.Values.contains("DisplayTemperatureUnits"));
     EXPECT_THAT(User.Shown, IsEmpty());
 }
 
-TEST_F(MainWindow, DirectoryThatCannotBeCreatedIsToldAndStartGoesOn) {
+TEST_F(MainWindow, WhatIsWrongAtTheStartIsToldAndTheStartGoesOn) {
     Disk.Contents["/home/documents"] = "a file where the directory should be";
+    Store.Values["CursorType"] = "9";
     Start();
-    EXPECT_THAT(User.ShownTexts(),
-                ElementsAre("Cannot Create Directory /home/documents/VEK",
-                            "Cannot Create Directory /home/documents/VEK/From PocketPC",
-                            "Cannot Create Directory /home/documents/VEK/From TalvexK42"));
+    EXPECT_THAT(User.ShownTexts(), testing::UnorderedElementsAre(
+                                       "Cannot Create Directory /home/documents/VEK",
+                                       "Cannot Create Directory /home/documents/VEK/From PocketPC",
+                                       "Cannot Create Directory /home/documents/VEK/From TalvexK42",
+                                       "Cursor Type Not Mapped SetCursorType(9)"));
+    EXPECT_EQ(Find<QButtonGroup>("optCursorType")->checkedId(), -1);
     EXPECT_TRUE(Item("mnuOpen")->isEnabled());
 }
 
 TEST_F(MainWindow, ShowsAFileAndReturnsToNoDataAfterOneWithoutReadings) {
-    Start();
-    Open("/data/three.csv");
+    StartWith("/data/three.csv");
     EXPECT_EQ(Caption(), std::string(kTitle) + "   File:three.csv");
-    EXPECT_EQ(Plot.Curves().size(), 2U);
-    EXPECT_TRUE(Item("mnuFileViewData")->isEnabled());
-    EXPECT_TRUE(Find<TabControl>("SSTab1")->isTabEnabled(1));
     EXPECT_EQ(Find<QLabel>("lblStatusCounts")->text(), QStringLiteral("Readings: 3"));
-    EXPECT_THAT(User.Shown, IsEmpty());
+    Item("mnuViewHeaders")->trigger();
 
     Open("/data/bad.csv");
     EXPECT_EQ(Caption(), kTitle);
-    EXPECT_THAT(User.ShownTexts(),
-                ElementsAre(HasSubstr("Date of XXX-01-2003 00:05:12"),
-                            HasSubstr("Gas PPM   26.1 is invalid"), "No data was read"));
+    EXPECT_THAT(
+        User.ShownTexts(),
+        ElementsAre("File: /data/three.csv\r\nInstrument: K42\r\nSerial number: 7\r\n"
+                    "Date: JAN-01-2003\r\nGas: CO\r\nFirst reading: 01-Jan-2003 00:05:12\r\n"
+                    "Last reading: 02-Jan-2003 06:00:00\r\nReadings: 3",
+                    HasSubstr("Date of XXX-01-2003 00:05:12"),
+                    HasSubstr("Gas PPM   26.1 is invalid"), "No data was read"));
     EXPECT_TRUE(Plot.Curves().empty());
     EXPECT_TRUE(Find<QWidget>("frameCommandEnabled")->isVisible());
     EXPECT_FALSE(Item("mnuFileViewData")->isEnabled());
@@ -70,8 +72,7 @@ TEST_F(MainWindow, ShowsAFileAndReturnsToNoDataAfterOneWithoutReadings) {
 }
 
 TEST_F(MainWindow, CommandsThatWouldDisturbALoadAreDisabledWhileItRuns) {
-    Start();
-    Open("/data/three.csv");
+    StartWith("/data/three.csv");
     bool looked = false;
     User.OnEvents = [&] {
         looked = true;
@@ -108,9 +109,8 @@ TEST_F(MainWindow, GridTabWithoutReadingsReturnsToTheTabBefore) {
     EXPECT_THAT(User.ShownTexts(), ElementsAre(kNoDataYet));
 }
 
-TEST_F(MainWindow, GridShowsTheReadingsOfTheLastLoadInTheUnitInForce) {
-    Start();
-    Open("/data/three.csv");
+TEST_F(MainWindow, GridAndPlotShowTheReadingsOfTheLastLoadInTheUnitInForce) {
+    StartWith("/data/three.csv");
     Item("mnuFileViewData")->trigger();
     const auto* model = Find<QTableView>("MSFlexGrid1")->model();
     const auto row = [model](int number) {
@@ -121,51 +121,23 @@ TEST_F(MainWindow, GridShowsTheReadingsOfTheLastLoadInTheUnitInForce) {
         return FromQt(cells.join(QLatin1Char('|')));
     };
     ASSERT_EQ(model->rowCount(), 3);
-    EXPECT_EQ(row(0), "1|01-Jan-2003 00:05:12|0.1|26.1|");
-    Find<QButtonGroup>("optTemperatureDisplay")->button(0)->click();
-    EXPECT_EQ(row(0), "1|01-Jan-2003 00:05:12|0.1|79.0|");
+    for (const int unit : {1, 0, 0, 1, 0}) {  // converted once per change of choice
+        Find<QButtonGroup>("optTemperatureDisplay")->button(unit)->click();
+        EXPECT_EQ(row(1),
+                  std::string("2|01-Jan-2003 12:00:00|9.5|") + (unit == 1 ? "10.0|" : "50.0|"));
+        EXPECT_THAT(Plot.Y1.Title, HasSubstr(unit == 1 ? "°C" : "°F"));
+    }
+    EXPECT_EQ(Store.Values["DisplayTemperatureUnits"], "1");
     EXPECT_EQ(model->headerData(3, Qt::Horizontal).toString(), QStringLiteral("Temp (°F)"));
     Open("/data/bad.csv");
     EXPECT_EQ(model->rowCount(), 0);
     EXPECT_EQ(Find<TabControl>("SSTab1")->currentIndex(), 0);
 }
 
-TEST_F(MainWindow, TemperatureIsConvertedOncePerChangeOfChoice) {
-    Start();
-    Open("/data/three.csv");
-    auto* unit = Find<QButtonGroup>("optTemperatureDisplay");
-    EXPECT_TRUE(unit->button(1)->isChecked());
-    unit->button(0)->click();
-    EXPECT_EQ(Store.Values["DisplayTemperatureUnits"], "1");
-    EXPECT_DOUBLE_EQ(Data.Temperature[1], 50.0);
-    EXPECT_THAT(Plot.Y1.Title, HasSubstr("°F"));
-    unit->button(0)->click();
-    EXPECT_DOUBLE_EQ(Data.Temperature[1], 50.0);
-    unit->button(1)->click();
-    EXPECT_DOUBLE_EQ(Data.Temperature[1], 10.0);
-}
-
-TEST_F(MainWindow, GraphTypeIsOneSwitchInMenuOptionsAndSettings) {
-    Store.Values["GraphType"] = "1";
-    Start();
-    Open("/data/three.csv");
-    EXPECT_TRUE(Item("mnuGraphType_1")->isChecked());
-    EXPECT_TRUE(Find<QButtonGroup>("optGraph")->button(1)->isChecked());
-    EXPECT_EQ(Plot.Curves().size(), 4U);
-    Item("mnuGraphType_0")->trigger();
-    EXPECT_TRUE(Find<QButtonGroup>("optGraph")->button(0)->isChecked());
-    EXPECT_EQ(Plot.Curves().size(), 2U);
-    Find<QButtonGroup>("optGraph")->button(2)->click();
-    EXPECT_TRUE(Item("mnuGraphType_2")->isChecked());
-    EXPECT_EQ(Store.Values["GraphType"], "2");
-}
-
 TEST_F(MainWindow, OpenAsksInTheDataDirectoryAndACancelEndsQuietly) {
     Start();
     Item("mnuOpen")->trigger();
-    ASSERT_EQ(Choose.Asked.size(), 1U);
-    EXPECT_EQ(Choose.Asked[0].Title, QStringLiteral("Select Talvex© K42 Data File To Read"));
-    EXPECT_EQ(Choose.Asked[0].Filter, QStringLiteral("All Files|*.*|CSV Files|*.csv"));
+    EXPECT_EQ(Choose.Asked.at(0).Filter, QStringLiteral("All Files|*.*|CSV Files|*.csv"));
     EXPECT_EQ(Choose.Asked[0].Start, QStringLiteral("/home/documents/VEK/"));
     EXPECT_THAT(User.Shown, IsEmpty());
     Choose.Answers = {QStringLiteral("/data/three.csv")};
@@ -176,9 +148,6 @@ TEST_F(MainWindow, OpenAsksInTheDataDirectoryAndACancelEndsQuietly) {
 TEST_F(MainWindow, SavingCopiesTheFileAndRefusesAnExistingOne) {
     Start();
     Item("mnuSaveDataFile")->trigger();
-    EXPECT_THAT(User.ShownTexts(), ElementsAre("There is no data to save"));
-    User.Shown.clear();
-
     Open("/data/three.csv");
     Find<QButtonGroup>("optTemperatureDisplay")->button(0)->click();
     Choose.Answers = {QStringLiteral("/data/copy.csv"), QStringLiteral("/data/bad.csv")};
@@ -187,19 +156,8 @@ TEST_F(MainWindow, SavingCopiesTheFileAndRefusesAnExistingOne) {
     EXPECT_EQ(Choose.Asked[0].DefaultSuffix, QStringLiteral("bmp"));
     EXPECT_EQ(Choose.Asked[0].Filter, QStringLiteral("CSV File|*.csv|All Files|*.*"));
     Item("mnuSaveDataFile")->trigger();
-    EXPECT_THAT(User.ShownTexts(), ElementsAre("File exists"));
+    EXPECT_THAT(User.ShownTexts(), ElementsAre("There is no data to save", "File exists"));
     EXPECT_EQ(Disk.Contents["/data/bad.csv"], kBadLines);
-}
-
-TEST_F(MainWindow, HeadersAreShownAsRead) {
-    Start();
-    Open("/data/three.csv");
-    Item("mnuViewHeaders")->trigger();
-    ASSERT_EQ(User.Shown.size(), 1U);
-    EXPECT_EQ(User.Shown[0].Text,
-              "File: /data/three.csv\r\nInstrument: K42\r\nSerial number: 7\r\n"
-              "Date: JAN-01-2003\r\nGas: CO\r\nFirst reading: 01-Jan-2003 00:05:12\r\n"
-              "Last reading: 02-Jan-2003 06:00:00\r\nReadings: 3");
 }
 
 TEST_F(MainWindow, RecentFilesListNewestFirstAndCanBeCleared) {
@@ -233,11 +191,55 @@ TEST_F(MainWindow, AFileDroppedOnTheWindowIsOpened) {
     EXPECT_EQ(Data.ReadingCount, 3);
 }
 
-TEST_F(MainWindow, UnmappedCursorTypeIsToldAtStart) {
-    Store.Values["CursorType"] = "9";
+// Two entries with one letter would make the key jump between them.
+void ExpectOwnLetters(const QList<QAction*>& actions, const QString& where) {
+    QSet<QChar> letters;
+    for (const QAction* action : actions) {
+        if (action->isSeparator()) continue;
+        const QString text = action->text().toLower();
+        const auto mark = text.indexOf(QLatin1Char('&'));
+        ASSERT_GE(mark, 0) << FromQt(where + text);
+        const QChar letter = text.at(mark + 1);
+        EXPECT_FALSE(letters.contains(letter)) << FromQt(where + action->text());
+        letters.insert(letter);
+        if (action->menu() != nullptr) ExpectOwnLetters(action->menu()->actions(), action->text());
+    }
+}
+
+TEST_F(MainWindow, EveryItemHasItsOwnLetterAndShortcutAndEveryControlANameForAScreenReader) {
     Start();
-    EXPECT_THAT(User.ShownTexts(), ElementsAre("Cursor Type Not Mapped SetCursorType(9)"));
-    EXPECT_EQ(Find<QButtonGroup>("optCursorType")->checkedId(), -1);
+    ExpectOwnLetters(Window().menuBar()->actions(), QStringLiteral("bar: "));
+    QSet<QString> shortcuts;
+    for (const QAction* action : Window().findChildren<QAction*>()) {
+        const QString keys = action->shortcut().toString();
+        if (keys.isEmpty()) continue;
+        EXPECT_FALSE(shortcuts.contains(keys)) << FromQt(keys);
+        shortcuts.insert(keys);
+    }
+    EXPECT_TRUE(shortcuts.contains(QStringLiteral("Ctrl+O")));
+    for (const auto* button : Window().findChildren<QAbstractButton*>()) {
+        // parts that Qt makes of its own accord
+        if (button->objectName().startsWith(QStringLiteral("qt_"))) continue;
+        if (button->inherits("QTableCornerButton")) continue;
+        EXPECT_FALSE(button->text().isEmpty() && button->accessibleName().isEmpty() &&
+                     button->toolTip().isEmpty())
+            << FromQt(button->objectName()) << " in " << FromQt(button->parent()->objectName());
+    }
+}
+
+TEST_F(MainWindow, EveryToolbarButtonHasItsPictureTipAndState) {
+    StartWith("/data/three.csv");
+    auto* toolbar = Find<Toolbar>("Toolbar1");
+    for (const ToolbarRow& row : ToolbarButtons()) {
+        if (*row.Key == '\0') continue;
+        const QAction* button = toolbar->Button(row.Key);
+        ASSERT_NE(button, nullptr) << row.Key;
+        EXPECT_FALSE(button->icon().isNull()) << row.Key;
+        EXPECT_FALSE(button->toolTip().isEmpty()) << row.Key;
+        if (*row.Follows != '\0') {
+            EXPECT_EQ(button->isEnabled(), Item(row.Follows)->isEnabled()) << row.Key;
+        }
+    }
 }
 
 }  // namespace

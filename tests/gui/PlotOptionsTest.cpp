@@ -1,7 +1,6 @@
 // The plot's menu items, toolbar buttons, options and dialog.
 #include <QComboBox>
 #include <QDialog>
-#include <QTimer>
 
 #include "PlotWindow.h"
 
@@ -14,16 +13,12 @@ class PlotOptionControls : public PlotWindow {
     void Press(const char* box, Qt::Key key) { QTest::keyClick(Find<QWidget>(box), key); }
     // Works in the dialog that the menu item opens; ends with it closed.
     void InScales(const std::function<void(QDialog&)>& work) {
-        bool worked = false;
-        QTimer::singleShot(0, &Window(), [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            work(*dialog);
-            worked = true;
-            dialog->reject();
+        NextModal<QDialog> next([&](QDialog& dialog) {
+            work(dialog);
+            dialog.reject();
         });
         Do("mnuChangeYScale");
-        EXPECT_TRUE(worked);
+        EXPECT_TRUE(next.Met);
     }
 };
 
@@ -37,7 +32,6 @@ TEST_F(PlotOptionControls, MenuToolbarAndKeysMoveTheViewAlike) {
         {"mnuMoveViewingAreaRightFast|PgDown", "X50..70 Y40..60 T40..60"},
         {"mnuMoveViewingAreaUpFast|Shift+PgUp", "X40..60 Y50..70 T50..70"},
         {"mnuMoveViewingAreaDownFast|Shift+PgDown", "X40..60 Y30..50 T30..50"}};
-    ShowPlot();
     for (const auto& row : rows) {
         for (const QString& way : QString::fromLatin1(row.first).split(QLatin1Char('|'))) {
             SetView(40, 60);
@@ -47,20 +41,22 @@ TEST_F(PlotOptionControls, MenuToolbarAndKeysMoveTheViewAlike) {
     }
 }
 
-TEST_F(PlotOptionControls, ToolbarZoomsCentresAndRestores) {
-    ShowPlot();
-    DoAll({{"Zoom In", "X25..75"},
-           {"Zoom Out", ""},
+TEST_F(PlotOptionControls, ZoomsAndWaysBack) {
+    DoAll({{"+|Ctrl++", "X38..63"},
+           {"-|-", ""},
            {"End|Zoom In", "X75..125"},
            {"Move Left", "X70..100"},  // never past the end of the data
-           {"CenterDot", "X85..115 Y32..132"}});
-    EXPECT_TRUE(Tool("Zoom Out")->isEnabled());
-    DoAll({{"RulerArrow", ""}});
+           {"CenterDot", "X85..115 Y32..132"},
+           {"RulerArrow", ""}});
     EXPECT_FALSE(Tool("Zoom Out")->isEnabled());
+    Do("-");
+    EXPECT_EQ(User.ShownTexts(), std::vector<std::string>{"Cannot Zoom Any Further!"});
+    Button("chkChangeYScales")->click();
+    EXPECT_EQ(Store.Values["ScaleYAxisOnZoom"], "YES");
+    DoAll({{"Home|Shift+=", "X-25..25 Y25..75 T25..75"}, {"Zoom Out", ""}});
 }
 
 TEST_F(PlotOptionControls, TheAxisCommandNamesTheAxisThatItActivatesNext) {
-    ShowPlot();
     bool left = true;
     for (const char* use : {"mnuSwitchActiveYAxis", "SwitchActiveYAxis", "Y"}) {
         Do(use);
@@ -76,14 +72,10 @@ TEST_F(PlotOptionControls, TheAxisCommandNamesTheAxisThatItActivatesNext) {
 }
 
 TEST_F(PlotOptionControls, MarkingIsOneSwitchThatLeavesTheViewAlone) {
-    ShowPlot();
     auto* box = Button("chkFlagDataPoints");
     SetView(20, 60);
-    const std::function<void()> ways[] = {[&] { Do("mnuMarkDataPoints"); }, [&] { box->click(); }};
-    bool marked = true;
-    for (const auto& use : ways) {
-        use();
-        marked = !marked;
+    for (const bool marked : {false, true}) {
+        marked ? box->click() : Do("mnuMarkDataPoints");
         EXPECT_EQ(Plot.Curves()[0].Style == CurveStyle::kLineWithMarkers, marked);
         EXPECT_EQ(Item("mnuMarkDataPoints")->isChecked(), marked);
         EXPECT_EQ(box->isChecked(), marked);
@@ -103,15 +95,14 @@ TEST_F(PlotOptionControls, PeriodsBelongToTheirLayoutAndAreCheckedAsTyped) {
                 {0, "01/02/2003", "02/30/2003", "02/30/2003 is not a valid date", ""},
                 {1, "06:00", "6:00 PM", "", "X25..75"},
                 {1, "25:00", "18:00", "25:00 is not a valid time", "X25..75"}};
-    ShowPlot();
     for (const auto& row : rows) {
         const bool dates = row.Layout == 0;
         Do(dates ? "mnuGraphType_0|mnuDisplayPeriod_0" : "mnuGraphType_1");
         Button(dates ? "optPeriodDisplay_1" : "optPeriodDisplay_2")->click();
+        EXPECT_TRUE(Button(dates ? "optGraph_0" : "optGraph_1")->isChecked());
         EXPECT_EQ(Button("optPeriodDisplay_1")->isEnabled(), dates);
         EXPECT_EQ(Button("optPeriodDisplay_2")->isEnabled(), !dates);
         EXPECT_EQ(Store.Values["DisplayPeriod"], dates ? "1" : "2");
-        EXPECT_FALSE(Item("mnuDisplayPeriod_0")->isChecked());
         Type(dates ? "txtStartUserDisplayPeriod" : "txtStartUserDisplayTime", row.From);
         Type(dates ? "txtEndUserDisplayPeriod" : "txtEndUserDisplayTime", row.To);
         EXPECT_EQ(Text(dates ? "lblDatesErr" : "lblTimesErr"), row.Message);
@@ -120,15 +111,8 @@ TEST_F(PlotOptionControls, PeriodsBelongToTheirLayoutAndAreCheckedAsTyped) {
         EXPECT_EQ(Shown(), row.Shown) << row.From;
         Do("Ctrl+0");
     }
-}
-
-TEST_F(PlotOptionControls, ATimeOfDayOutlivesARebuildButNotItsLayout) {
-    ShowPlot();
-    Do("mnuGraphType_1");
-    Button("optPeriodDisplay_2")->click();
+    // a time of day outlives a rebuild but not its layout
     Type("txtStartUserDisplayTime", "06:00");
-    Type("txtEndUserDisplayTime", "18:00");
-    EXPECT_FALSE(Store.Values.contains("DisplayTimeTo"));
     Press("txtEndUserDisplayTime", Qt::Key_Return);
     EXPECT_EQ(Store.Values["DisplayTimeFrom"] + Store.Values["DisplayTimeTo"], "06:0018:00");
     EXPECT_NE(Text("lblPeriod").find("06:00 - 18:00"), std::string::npos);
@@ -141,8 +125,9 @@ TEST_F(PlotOptionControls, ATimeOfDayOutlivesARebuildButNotItsLayout) {
 }
 
 TEST_F(PlotOptionControls, DaysOfTheWeekAreChosenFromListsThatBeginWithTheWeek) {
-    Store.Values["GraphType"] = "2";
-    ShowPlot();
+    Button("optGraph_2")->click();
+    EXPECT_TRUE(Item("mnuGraphType_2")->isChecked());
+    EXPECT_EQ(Store.Values["GraphType"], "2");
     Button("optPeriodDisplay_3")->click();
     Press("cmbDisplayDayEnd", Qt::Key_Home);
     EXPECT_EQ(Store.Values["EndViewDayOn"], "Sunday");
@@ -165,7 +150,6 @@ TEST_F(PlotOptionControls, DaysOfTheWeekAreChosenFromListsThatBeginWithTheWeek) 
 }
 
 TEST_F(PlotOptionControls, TheScrollBarMovesTheWindowOverTheData) {
-    ShowPlot();
     auto* bar = Find<QScrollBar>("Scroll1");
     EXPECT_FALSE(bar->isEnabled());
     SetView(20, 40);
@@ -180,7 +164,6 @@ TEST_F(PlotOptionControls, FindingAPointSelectsTheReadingNearestToADate) {
     const std::pair<const char*, const char*> rows[] = {{"01/02/2003 15:10", ""},
                                                         {"rubbish", "rubbish is not a valid date"},
                                                         {"01/02/2004", "Date not Located"}};
-    ShowPlot();
     Do("Ctrl+F");
     EXPECT_EQ(Window().focusWidget(), Find<QWidget>("txtFindPoint"));
     for (const auto& row : rows) {
@@ -201,7 +184,6 @@ TEST_F(PlotOptionControls, ScalesSetByHandAreCheckedAsTypedAndTakenTogether) {
                 {"chkGas", "txtGasFrom", "txtGasTo", "27", "7",
                  "The maximum must be above the minimum", "X35..70"},
                 {"chkTemp", "txtTempFrom", "txtTempTo", "1000", "2000", "", "X35..70 T2994..6024"}};
-    ShowPlot();
     for (const auto& row : rows) {
         InScales([&](QDialog& dialog) {
             EXPECT_EQ(FromQt(Button("chkGas")->text()), "&Gas (-0.1 - 28)");
@@ -222,7 +204,7 @@ TEST_F(PlotOptionControls, ScalesSetByHandAreCheckedAsTypedAndTakenTogether) {
                   "&Dates (02-Jan-2003 00:00:00 - 03-Jan-2003 00:00:00)");
         Button("chkGas")->click();
         Type("txtGasFrom", "3");
-        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdCancel"))->click();
+        Find<QAbstractButton>("cmdCancel", &dialog)->click();
         EXPECT_FALSE(dialog.isVisible());
     });
     EXPECT_EQ(Shown(), "X35..70");
@@ -255,12 +237,13 @@ TEST_F(PlotOptionControls, EveryCursorIsStoredAndDrawnAtTheSelectedReading) {
 }
 
 TEST_F(PlotOptionControls, StartingStoresNoneOfTheOptions) {
-    const std::map<std::string, std::string> stored = {
-        {"DisplayTimeFrom", "07:00"}, {"DisplayTimeTo", "19:00"},  {"GraphType", "2"},
-        {"StartWeekOn", "1"},         {"StartViewDayOn", "2"},     {"EndViewDayOn", "Friday"},
-        {"UseDataMarkers", "NO"},     {"ScaleYAxisOnZoom", "YES"}, {"CursorType", "4"},
+    const decltype(Store.Values) stored = {
+        {"DisplayTimeFrom", "07:00"}, {"DisplayTimeTo", "19:00"},
+        {"GraphType", "2"},           {"DisplayTemperatureUnits", "1"},
+        {"StartWeekOn", "1"},         {"StartViewDayOn", "2"},
+        {"EndViewDayOn", "Friday"},   {"UseDataMarkers", "NO"},
+        {"ScaleYAxisOnZoom", "YES"},  {"CursorType", "4"},
         {"DisplayPeriod", "3"}};
-    ShowPlot();
     for (const auto& entry : stored) EXPECT_FALSE(Store.Values.contains(entry.first));
     for (const auto& entry : stored) Store.Values[entry.first] = entry.second;
     const auto before = Store.Values;

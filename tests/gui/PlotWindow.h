@@ -29,6 +29,8 @@ class PlotWindow : public WindowFixture {
             Disk.Contents["/data/days.csv"] += line;
         }
     }
+    void SetUp() override { ShowPlot(); }
+    // Again, when other settings are to hold from the start on.
     void ShowPlot() {
         Start();
         Open("/data/days.csv");

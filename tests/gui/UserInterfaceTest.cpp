@@ -1,37 +1,16 @@
 // The message boxes, file filters and the progress window as a user meets them.
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 
+#include "WindowFixture.h"
 #include "app/AppTexts.h"
 #include "app/ui/frmBuildingGraph.h"
 #include "platform/qt/QtChoosers.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/QtUserInterface.h"
 
 namespace brask {
 namespace {
-
-// Answers the next modal box: hands it to `answer` as soon as it is there.
-class BoxAnswer {
-  public:
-    explicit BoxAnswer(std::function<void(QMessageBox&)> answer) {
-        QObject::connect(&timer_, &QTimer::timeout, [this, answer = std::move(answer)] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) return;
-            timer_.stop();
-            answer(*box);
-        });
-        timer_.start(1);
-    }
-
-  private:
-    QTimer timer_;
-};
 
 class Boxes : public testing::Test {
   protected:
@@ -40,9 +19,7 @@ class Boxes : public testing::Test {
 };
 
 TEST_F(Boxes, MessageIsShownAsPlainTextWithOneButton) {
-    bool shown = false;
-    const BoxAnswer answer([&](QMessageBox& box) {
-        shown = true;
+    NextModal<QMessageBox> answer([&](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), QStringLiteral("Title"));
         EXPECT_EQ(box.text(), QStringLiteral("<b>one</b>\ntwo"));
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
@@ -50,12 +27,12 @@ TEST_F(Boxes, MessageIsShownAsPlainTextWithOneButton) {
         box.button(QMessageBox::Ok)->click();
     });
     user_.ShowMessage({"Title", "<b>one</b>\r\ntwo"});
-    EXPECT_TRUE(shown);
+    EXPECT_TRUE(answer.Met);
 }
 
 TEST_F(Boxes, RepeatedMessagesCanBeSwitchedOff) {
     for (const bool check : {false, true}) {
-        const BoxAnswer answer([check](QMessageBox& box) {
+        NextModal<QMessageBox> answer([check](QMessageBox& box) {
             EXPECT_FALSE(box.checkBox()->isChecked()) << "unchecked each time";
             box.checkBox()->setChecked(check);
             box.button(QMessageBox::Ok)->click();
@@ -71,7 +48,7 @@ TEST_F(Boxes, QuestionsReturnTheChosenAnswer) {
                                                                   {QMessageBox::Cancel, false}};
     const Message message{"Title", "Text"};
     for (const auto& one : cases) {
-        const BoxAnswer answer([&](QMessageBox& box) { box.button(one.first)->click(); });
+        NextModal<QMessageBox> answer([&](QMessageBox& box) { box.button(one.first)->click(); });
         const bool yesNo = one.first == QMessageBox::Yes || one.first == QMessageBox::No;
         EXPECT_EQ(yesNo ? user_.AskYesNo(message) : user_.AskRetry(message), one.second);
     }

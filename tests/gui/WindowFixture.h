@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTimer>
 #include <memory>
 
 #include "app/ui/frmBraskLite.h"
@@ -17,6 +18,26 @@
 #include "platform/simulated/ScriptedUserInterface.h"
 
 namespace brask {
+
+// Works in the next modal window as soon as it is there.
+template <class Window>
+class NextModal {
+  public:
+    explicit NextModal(std::function<void(Window&)> work) {
+        QObject::connect(&timer_, &QTimer::timeout, [this, work = std::move(work)] {
+            auto* const window = qobject_cast<Window*>(QApplication::activeModalWidget());
+            if (window == nullptr) return;
+            timer_.stop();
+            Met = true;
+            work(*window);
+        });
+        timer_.start(1);
+    }
+    bool Met = false;
+
+  private:
+    QTimer timer_;
+};
 
 class WindowFixture : public testing::Test {
   protected:
@@ -47,12 +68,17 @@ class WindowFixture : public testing::Test {
         return *window_;
     }
     frmBraskLite& Window() { return *window_; }
+    void StartWith(const char* path) {
+        Start();
+        Open(path);
+    }
     void Open(const char* path) { Window().OpenFile(QString::fromLatin1(path)); }
 
-    // A control or menu item by its object name.
+    // A control or menu item of the main window, or of another one, by its object name.
     template <class T>
-    T* Find(const char* name) {
-        T* found = window_->findChild<T*>(QString::fromLatin1(name));
+    T* Find(const char* name, const QObject* in = nullptr) {
+        const QObject* const window = in == nullptr ? window_.get() : in;
+        T* found = window->findChild<T*>(QString::fromLatin1(name));
         EXPECT_NE(found, nullptr) << name;
         return found;
     }

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <fstream>
 #include <limits>
+#include <numeric>
 
 #include "platform/simulated/FixedUserLocale.h"
 #include "plot/ui/DynaPlot.h"
@@ -20,7 +21,6 @@ class Drawing : public testing::Test {
     Curve& Add(std::vector<double> x, std::vector<double> y) {
         Curve& curve = Curves.emplace_back(CurveOf(std::move(x), std::move(y)));
         curve.Color = kGasColor;
-        curve.Marker.Color = kGasColor;
         return curve;
     }
     // Also draws the curves that were added.
@@ -50,9 +50,8 @@ std::vector<int> RedRows(const QImage& picture) {
     return rows;
 }
 int Red(const QImage& picture) {
-    int sum = 0;
-    for (const int row : RedRows(picture)) sum += row;
-    return sum;
+    const auto rows = RedRows(picture);
+    return std::accumulate(rows.begin(), rows.end(), 0);
 }
 
 TEST_F(Drawing, ASingleSpikeInAMillionReadingsIsSeen) {
@@ -87,16 +86,6 @@ TEST_F(Drawing, ADottedCurveHasGapsSparseOrDense) {
     }
 }
 
-TEST_F(Drawing, PointsAndMarkersOfASingleReading) {
-    Chart1.X.SetRange(1, 1);  // as wide as the only reading
-    Curve& curve = Add({1}, {0.5});
-    EXPECT_EQ(Red(Draw()), 0);
-    for (const CurveStyle style : {CurveStyle::kPoint, CurveStyle::kLineWithMarkers}) {
-        curve.Style = style;
-        EXPECT_EQ(Red(Draw()), 25);
-    }
-}
-
 TEST_F(Drawing, BackgroundPictureIsStretchedOrNotAndMayBeMissing) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("red.png"));
@@ -104,9 +93,7 @@ TEST_F(Drawing, BackgroundPictureIsStretchedOrNotAndMayBeMissing) {
     red.fill(Qt::red);
     ASSERT_TRUE(red.save(file));
     Chart1.Background.PictureFile = file.toStdString();
-    const QImage stretched = Draw();
-    EXPECT_TRUE(IsRed(stretched.pixel(400, 250)) || IsRed(stretched.pixel(401, 252)));
-    EXPECT_GT(Red(stretched), 300000);
+    EXPECT_GT(Red(Draw()), 300000);
     Chart1.Background.Stretched = false;
     EXPECT_EQ(Red(Draw()), 200);
 

