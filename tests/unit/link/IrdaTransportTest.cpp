@@ -84,9 +84,7 @@ TEST(IrdaTransport, FailuresAreTold) {
             EXPECT_EQ(transport.Parts.User.Ended(), dialog && !retry);
             if (transport.Parts.User.Ended()) {
                 EXPECT_EQ(transport.Irda.StartSockets(), fault != &Link::StartError);
-                transport.Irda.ConnectInstrument();
-                transport.Irda.CloseInstrument();
-                EXPECT_EQ(transport.Parts.User.Shown.size(), 1U) << "nobody is left to read it";
+                EXPECT_EQ(transport.Parts.User.Shown.size(), 1U) << "nobody reads it";
             }
             EXPECT_EQ(transport.Parts.Link.OpenSockets, 0);
         }
