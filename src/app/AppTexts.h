@@ -38,6 +38,9 @@ inline constexpr auto kHeaders =
             "File: %1\r\nInstrument: %2\r\nSerial number: %3\r\nDate: %4\r\nGas: %5\r\n"
             "First reading: %6\r\nLast reading: %7\r\nReadings: %8");
 
+// For the log: a download's file stands on the plot.
+inline constexpr auto kLogViewIsBack = TextRow("app", "Back From SetViewData(1)");
+
 // The tabs. Their letters must differ from those of the menu bar, since both listen to Alt.
 inline constexpr auto kTabGraph = TextRow("app", "&Graph");
 inline constexpr auto kTabData = TextRow("app", "&Data");

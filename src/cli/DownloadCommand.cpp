@@ -108,7 +108,10 @@ ExitStatus RunDownload(Shell& shell, const CommandLine& line) {
         const bool progress =
             !line.Has("quiet") && shell.System.OtherPrograms().ErrorOutputIsTerminal();
         ConsoleDownloadView view(shell, progress);
+        // What the instrument has sent is not lost by Ctrl+C or a shutdown.
+        shell.User.EndOn(shell.System.WatchStopSignal());
         report = DownloadSession(*sockets, run.System(), run.Data(), view, OptionsOf(line)).Run();
+        shell.User.EndOn(nullptr);
         if (report.GivenUp) {
             ShowFailure(shell, shell.Words.Fill(kNoConnection, {address, *line.Value("timeout")}));
         }
@@ -120,7 +123,9 @@ ExitStatus RunDownload(Shell& shell, const CommandLine& line) {
         shell.User.ShowNotice(shell.Words.Fill(kNotAccepted, {run.LogPath()}));
     }
     Print(shell, line, report);
-    return report.Accepted ? ExitStatus::kDone : ExitStatus::kFailed;
+    // A script that reads 0 takes the instrument for left in good order.
+    const bool done = report.Accepted && !shell.User.Ended();
+    return done ? ExitStatus::kDone : ExitStatus::kFailed;
 }
 
 }  // namespace brask

@@ -98,7 +98,10 @@ ExitStatus RunRetrieve(Shell& shell, const CommandLine& line) {
     const auto address = ParseHandheldAddress(option.value_or(stored));
     Retrieved retrieved;
     if (address) {
+        // Ctrl+C or a shutdown must not leave half a copy, or a deletion that nobody heard of.
+        shell.User.EndOn(shell.System.WatchStopSignal());
         retrieved = Retrieve(shell, line, *address, session);
+        shell.User.EndOn(nullptr);
     } else {
         ShowFailure(shell, shell.Words.Fill(cli_texts::kBadStoredHandheld, {stored}));
     }

@@ -33,6 +33,10 @@ DownloadReport DownloadSession::Run() {
     data_.Session.State = CollectState::kRunning;
     begun_ = system_.Time.SteadyMilliseconds();
     const Ending ending = RunSteps();
+    // after whichever receive of theirs it was
+    if (const auto& reason = transport_.Broken()) {
+        Log(kLogBroken, {std::to_string(report_.Bytes), *reason});
+    }
     // In one place for every ending, so that none can leave the link open or the main window
     // waiting. Done again when the steps have done so already, for the endings in between
     transport_.CloseInstrument();
@@ -60,7 +64,7 @@ DownloadSession::Ending DownloadSession::RunSteps() {
     if (!Receive()) {
         // A part of the readings may be all that is ever got of them.
         KeepStream();
-        Log(kLogCancelled, {std::to_string(report_.Bytes)});
+        if (!transport_.Broken()) Log(kLogCancelled, {std::to_string(report_.Bytes)});
         return Ending::kCancelled;
     }
     Finish();
@@ -77,7 +81,7 @@ void DownloadSession::Cancel() {
 bool DownloadSession::BeginRawFile() {
     const auto created = system_.Disk.CreateTemporary("CFG");
     if (!created.Ok()) {
-        ReportUnwritten("CFG", created.Why().Reason);
+        Tell(system_.Words.Fill(kNoRawFile, {created.Why().Reason}));
         return false;
     }
     report_.RawFile = created.Value();
@@ -87,16 +91,12 @@ bool DownloadSession::BeginRawFile() {
 }
 
 bool DownloadSession::StartLibrary() {
-    for (;;) {
-        if (!KeepGoing()) return false;
-        const bool started = transport_.StartSockets();
-        if (started) break;
-        // its first failure has been shown; nothing is gained by trying again
-        if (transport_.LibraryFailed()) return false;
-    }
-    if (!transport_.StatusText().empty() && transport_.StatusText() != display_.Labels[4]) {
+    if (!KeepGoing()) return false;
+    if (!transport_.StartSockets()) {
+        // instead of the prompt: no key on the instrument helps any more
+        SetPrompt(false);
         SetLabel(4, transport_.StatusText());
-        SetLabel(5, "");
+        return false;
     }
     SetLabel(3, system_.Words.Find(kWinsockConnected));
     return true;
@@ -129,7 +129,6 @@ bool DownloadSession::Receive() {
     SetPrompt(false);
     ClearLabels();
     display_.Bytes = 0;
-    begun_ = system_.Time.SteadyMilliseconds();
     SetLabel(0, system_.Words.Find(kDataTransfer));
     IdleTimer idle(system_.Time, IdleTimer::kWaiting);
     while (!idle.RunOut()) {
@@ -186,9 +185,11 @@ void DownloadSession::AwaitLineFeed() {
 
 void DownloadSession::Finish() {
     Log(kLogReceived, {std::to_string(report_.Bytes), report_.RawFile});
-    if (report_.Bytes == 0 || !KeepGoing()) return;
-    // Before expanding, which takes the previous line's place.
+    if (report_.Bytes == 0) return;
+    // Before expanding, which takes the previous line's place; and before the end of the run is
+    // asked for, which may have come during the last wait.
     KeepStream();
+    if (!KeepGoing()) return;
     Enter(DownloadStep::kVerifying);
     ReceivedFiling filing(system_, data_, [this] { return KeepGoing(); });
     const FiledDownload filed = filing.VerifyAndFile(report_.RawFile);
@@ -205,10 +206,7 @@ void DownloadSession::KeepStream() {
     if (report_.Bytes == 0) return;
     const auto kept = data_.Recovery.KeepStream(report_.RawFile, data_.Expander.PreviousLine());
     if (kept.Ok()) return;
-    const std::string line =
-        system_.Words.Fill(kNoRecoveryCopy, {report_.RawFile, kept.Why().Reason});
-    data_.Log.WriteLog(line);
-    system_.User.ShowNotice(line);
+    Warn(system_.Words.Fill(kNoRecoveryCopy, {report_.RawFile, kept.Why().Reason}));
 }
 
 // Whether the readings would survive a power cut now. Until then they must stay in the instrument.
@@ -216,10 +214,7 @@ bool DownloadSession::SafeOnDisk() {
     for (const std::string& path : {report_.RawFile, report_.File}) {
         const Status flushed = system_.Disk.Flush(path);
         if (flushed.Ok()) continue;
-        const std::string line =
-            system_.Words.Fill(kNotClearedUnsafe, {path, flushed.Why().Reason});
-        data_.Log.WriteLog(line);
-        system_.User.ShowNotice(line);
+        Warn(system_.Words.Fill(kNotClearedUnsafe, {path, flushed.Why().Reason}));
         return false;
     }
     return true;
@@ -254,10 +249,6 @@ void DownloadSession::AwaitClearAnswer() {
         if (received.Closed) break;
     }
     if (KeepGoing()) ShowText(kNoClearAnswer);
-}
-
-std::int64_t DownloadSession::ElapsedTenths() const {
-    return (system_.Time.SteadyMilliseconds() - begun_) / 100;
 }
 
 bool DownloadSession::KeepGoing() {
@@ -297,9 +288,18 @@ void DownloadSession::Enter(DownloadStep step) {
 }
 
 void DownloadSession::ReportUnwritten(const std::string& path, const std::string& reason) {
-    const std::string line = system_.Words.Fill(data_texts::kCannotWrite, {path, reason});
+    Tell(system_.Words.Fill(data_texts::kCannotWrite, {path, reason}));
+}
+
+void DownloadSession::Tell(const std::string& line) {
     data_.Log.WriteLog(line);
     system_.User.ShowNotice(line);
+}
+
+void DownloadSession::Warn(const std::string& line) {
+    Tell(line);
+    // both may happen in one run
+    report_.Warning += (report_.Warning.empty() ? "" : "; ") + line;
 }
 
 void DownloadSession::Log(const TextRow& row, std::initializer_list<std::string_view> arguments) {

@@ -32,6 +32,9 @@ struct DownloadReport {
     std::string File;      // where the data file lies, a rejected one too; empty for none
     std::string RawFile;   // the stream as received; it stays
     std::int64_t Bytes = 0;
+    // What about the safety of the readings the user must not miss, shown as a notice already:
+    // whatever is shown next takes a notice's place. Empty when all is well.
+    std::string Warning;
 };
 
 class DownloadSession {
@@ -44,12 +47,10 @@ class DownloadSession {
     // received file is empty then unless the download was accepted.
     DownloadReport Run();
 
-    // Ends the run, whatever it is waiting for, within 200 ms. The received file is given up, what
-    // was received stays on disk. Does nothing when it has ended.
+    // Ends the run, whatever it is waiting for: within 200 ms, but when a system's own look around
+    // or a disk takes longer. The received file is given up, what was received stays on disk. Does
+    // nothing when it has ended.
     void Cancel();
-
-    // Since the connection stood; before it, since Run.
-    std::int64_t ElapsedTenths() const;
 
   private:
     enum class Ending { kFinished, kCancelled };
@@ -75,6 +76,9 @@ class DownloadSession {
     void ClearLabels();
     void Enter(DownloadStep step);
     // Where no box is to be shown: status bar and log.
+    void Tell(const std::string& line);
+    // The same for what the report is to keep.
+    void Warn(const std::string& line);
     void ReportUnwritten(const std::string& path, const std::string& reason);
     void Log(const TextRow& row, std::initializer_list<std::string_view> arguments);
     void ShowText(const TextRow& row);
@@ -91,7 +95,7 @@ class DownloadSession {
     EndOfData end_;
     // stood once; from then on nothing is given up for taking long
     bool connected_ = false;
-    std::int64_t begun_ = 0;  // steady milliseconds; what the elapsed time counts from
+    std::int64_t begun_ = 0;  // steady milliseconds; what giving up counts from
 };
 
 }  // namespace brask

@@ -1,6 +1,5 @@
 #include "link/IrdaTransport.h"
 
-#include <optional>
 #include <utility>
 
 #include "data/Windows1252.h"
@@ -130,6 +129,8 @@ ReceivedText IrdaTransport::ReceiveText() {
     auto received = socket_->Receive();
     if (!received.Ok()) {
         statusText_ = Note(received.Why());
+        const std::string& reason = received.Why().Reason;
+        broken_ = reason == statusText_ ? reason : statusText_ + " (" + reason + ")";
         needs_.User.ShowMessage({needs_.Words.Find(kReceiveFailureTitle), statusText_});
         // closed first, since nothing runs any more once the program is ending
         CloseInstrument();
@@ -163,6 +164,8 @@ std::string IrdaTransport::Note(const Error& error) {
 }
 
 void IrdaTransport::ShowError(const char* operation, const std::string& description) {
+    // the user has been told, or has left; closing what is open goes on without a word
+    if (needs_.User.Ended()) return;
     if (ShowProgramError(needs_.User, needs_.Words, {operation, description, "", true})) return;
     CloseInstrument();
 }

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -72,6 +73,9 @@ class IrdaTransport {
 
     // The last error's text, or "Connected to " and the device's name. For showing to the user.
     const std::string& StatusText() const { return statusText_; }
+    // Why a receive failed, for the log: the system's text, then what the link itself says where
+    // that is something else. Nothing as long as none has failed.
+    const std::optional<std::string>& Broken() const { return broken_; }
     void ClearStatusText() { statusText_.clear(); }
     int LastSocketError() const { return lastError_; }
     // Set when starting, listing devices or sending has failed: the download is to be cancelled.
@@ -90,6 +94,7 @@ class IrdaTransport {
     Needs needs_;
     std::unique_ptr<InfraredSocket> socket_;
     std::string statusText_;
+    std::optional<std::string> broken_;
     int lastError_ = 0;
     bool started_ = false;
     bool libraryFailed_ = false;

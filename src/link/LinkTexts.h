@@ -8,6 +8,8 @@ namespace brask::link_texts {
 // the window of the download
 inline constexpr auto kDownloadTitle = TextRow("link", "Get Data From Talvex© K42");
 inline constexpr auto kElapsed = TextRow("link", "Elapsed time: %1");
+// what the moving bar is called for those who hear it
+inline constexpr auto kProgressName = TextRow("link", "Progress");
 inline constexpr auto kCancel = TextRow("link", "Cancel");
 
 // the labels of the download, in the order of their appearance
@@ -64,13 +66,17 @@ inline constexpr auto kLogDownload = TextRow("link", "Download: %1");
 inline constexpr auto kLogTooShort =
     TextRow("link", "%1 was rejected: it has %2 bytes, less than any data file");
 inline constexpr auto kLogNoEnd = TextRow("link", "%1 was rejected: it has no END DATA: line");
-inline constexpr auto kLogUnreadable = TextRow("link", "%1 was rejected: %2");
+inline constexpr auto kLogRejected = TextRow("link", "%1 was rejected: %2");
 inline constexpr auto kLogClosed =
     TextRow("link", "the link was closed before the first byte came");
 inline constexpr auto kLogGivenUp = TextRow("link", "given up, no connection in time");
 inline constexpr auto kLogCancelled = TextRow("link", "cancelled after %1 bytes");
+inline constexpr auto kLogBroken = TextRow("link", "the link broke after %1 bytes: %2");
 inline constexpr auto kLogReceived = TextRow("link", "received %1 bytes into %2");
 inline constexpr auto kLogAccepted = TextRow("link", "%1 was accepted with %2 data lines");
+// %1 is the directory and the system's reason.
+inline constexpr auto kNoRawFile =
+    TextRow("link", "No file for the received stream could be made in %1");
 inline constexpr auto kNoRecoveryCopy =
     TextRow("link", "No copy of the received stream %1 could be kept: %2");
 inline constexpr auto kNotReplaced =

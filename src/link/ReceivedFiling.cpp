@@ -86,7 +86,7 @@ std::optional<std::string> ReceivedFiling::Expand(const std::string& rawPath) {
     }
     if (lines.Ok()) return path;
     if (lines.Why().Number == ECANCELED) return std::nullopt;
-    Log(kLogUnreadable, {rawPath, lines.Why().Reason});
+    Log(kLogRejected, {rawPath, lines.Why().Reason});
     system_.User.ShowNotice(
         system_.Words.Fill(data_texts::kCannotRead, {rawPath, lines.Why().Reason}));
     return std::nullopt;
@@ -124,7 +124,7 @@ bool ReceivedFiling::Place(const std::string& expandedPath, const std::string& t
 bool ReceivedFiling::Check(FiledDownload& filed) {
     const auto opened = system_.Disk.Open(filed.File);
     if (!opened.Ok()) {
-        Log(kLogUnreadable, {filed.File, opened.Why().Reason});
+        Log(kLogRejected, {filed.File, opened.Why().Reason});
         return false;
     }
     const std::uint64_t size = opened.Value()->Size();
@@ -141,11 +141,11 @@ bool ReceivedFiling::Check(FiledDownload& filed) {
 bool ReceivedFiling::Judge(const CheckedFile& checked, const std::string& path) {
     const Texts& words = system_.Words;
     if (checked.BadLine) {
-        return Reject(words.Fill(kInvalidLength, {Windows1252ToUtf8(*checked.BadLine)}));
+        return Reject(words.Fill(kInvalidLength, {Windows1252ToUtf8(*checked.BadLine)}), path);
     }
     if (!checked.Outcome.Ok()) {
         const Error& why = checked.Outcome.Why();
-        if (why.Number != ECANCELED) Log(kLogUnreadable, {path, why.Reason});
+        if (why.Number != ECANCELED) Log(kLogRejected, {path, why.Reason});
         return false;
     }
     if (!checked.Expected) {
@@ -154,15 +154,20 @@ bool ReceivedFiling::Judge(const CheckedFile& checked, const std::string& path) 
     }
     const std::string counted = std::to_string(checked.Counted);
     if (*checked.Expected != static_cast<double>(checked.Counted)) {
-        return Reject(words.Fill(kWrongCount, {counted, FormatNumber(*checked.Expected)}));
+        return Reject(words.Fill(kWrongCount, {counted, FormatNumber(*checked.Expected)}), path);
     }
-    if (checked.Counted == 0) return Reject(words.Find(kNoData));
+    if (checked.Counted == 0) return Reject(words.Find(kNoData), path);
     Log(kLogAccepted, {path, counted});
     return true;
 }
 
 // Always false, for the caller to hand on.
-bool ReceivedFiling::Reject(const std::string& message) {
+bool ReceivedFiling::Reject(const std::string& message, const std::string& path) {
+    // one line of the log, where the box has several
+    std::string line = message;
+    std::erase(line, '\r');
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    Log(kLogRejected, {path, line});
     system_.User.ShowMessage({system_.Words.Find(data_texts::kProgramTitle), message});
     return false;
 }

@@ -26,9 +26,9 @@ class ReceivedFiling {
     // `keepGoing` lets events run and says whether to go on.
     ReceivedFiling(const LinkSystem& system, const LinkData& data, std::function<bool()> keepGoing);
 
-    // Does all of it, with the messages of a download; progress is shown meanwhile. A rejection
-    // that has no message is logged. The raw file stays. When Accepted, the data file and its
-    // directory are on disk for good.
+    // Does all of it, with the messages of a download; progress is shown meanwhile. Every
+    // rejection is logged, also one that has a message. The raw file stays. When Accepted, the data
+    // file and its directory are on disk for good.
     FiledDownload VerifyAndFile(const std::string& rawPath);
 
   private:
@@ -38,7 +38,7 @@ class ReceivedFiling {
     bool Place(const std::string& expandedPath, const std::string& target);
     bool Check(FiledDownload& filed);
     bool Judge(const CheckedFile& checked, const std::string& path);
-    bool Reject(const std::string& message);
+    bool Reject(const std::string& message, const std::string& path);
     void Log(const TextRow& row, std::initializer_list<std::string_view> arguments);
 
     LinkSystem system_;

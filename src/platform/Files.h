@@ -76,7 +76,8 @@ class Files {
     // Has what was appended to a file, and its name, written to disk; survives a power cut when Ok.
     virtual Status Flush(const std::string& path) = 0;
     // A new empty file of a name that nobody else has; the caller removes it. Lies in the system's
-    // temporary directory; the result is its full path.
+    // temporary directory; the result is its full path. An error's reason begins with that
+    // directory, where the system names one.
     virtual Result<std::string> CreateTemporary(const std::string& namePrefix) = 0;
     // Copies byte for byte and durably; refuses a target that exists, with the system's number.
     virtual Status CopyToNew(const std::string& source, const std::string& target) = 0;

@@ -1,6 +1,7 @@
 // Infrared sockets as the link to the instrument needs them: look who is in range, connect, send,
 // receive. No call here waits longer than about 50 ms, so that the loop around it can answer its
-// user; what takes longer says so and is called again.
+// user; what takes longer says so and is called again. The one exception is a system that looks
+// around by itself in ListDevices, which may take it a second.
 //
 // A received block begins with exactly one control byte, which belongs to the infrared service and
 // not to the text behind it. Systems do not keep to that by themselves: InfraredBlocks.h.
@@ -49,7 +50,8 @@ class InfraredSocket {
     // False while the connection is being made: call again with the same address. After an error
     // the socket is of no further use.
     virtual Result<bool> Connect(const InfraredAddress& address) = 0;
-    // Sends the bytes whole, control byte included; how many went out.
+    // Sends the bytes whole, control byte included; how many went out, which is all of them: when a
+    // system takes only a part, that is an error.
     virtual Result<std::size_t> Send(std::string_view bytes) = 0;
     // The same ahead of what was sent before and not yet read, where the system has such a way.
     virtual Result<std::size_t> SendUrgent(std::string_view bytes) = 0;

@@ -101,6 +101,7 @@ TEST_F(DownloadWindow, ShowsWhatItDoesAndEndsWithTheReadingsOnThePlot) {
     Window().Registry().Run("mnuProgramOptions");
     Link.ListWaits = 3;
     std::vector<std::string> seen;
+    bool rested = false;
     OnTurn = [&] {
         if (Dialog() == nullptr || !Dialog()->isVisible()) return;
         if (seen.empty() || seen.back() != Labels()) seen.push_back(Labels());
@@ -108,11 +109,16 @@ TEST_F(DownloadWindow, ShowsWhatItDoesAndEndsWithTheReadingsOnThePlot) {
         EXPECT_FALSE(Item("mnuOpen")->isEnabled());
         EXPECT_FALSE(Item("mnuReadDataFromTalvexK42")->isEnabled());
         Window().Download();
+        // the bar moves while time is counted, and rests when all has come
+        const auto* bar = Find<QProgressBar>("progressBar", Dialog());
+        rested = bar->maximum() != 0;
+        EXPECT_EQ(Find<QTimer>("timer10s", Dialog())->isActive(), !rested);
     };
     Download();
     EXPECT_THAT(seen, Contains("Waiting for Talvex© K42|to connect over IRDA||Winsock Connected|"
                                "Press Any Key!|On The Talvex© K42!|"));
     EXPECT_THAT(seen, Contains("Data Transfer:|Received 17 Bytes|||||"));
+    EXPECT_TRUE(rested);
     EXPECT_EQ(Link.Attempts.size(), 1U);
     EXPECT_EQ(Data.Source, DataSource::kInstrument);
     EXPECT_EQ(Disk.Contents[kFile], kThreeReadings);
@@ -179,6 +185,7 @@ TEST_F(DownloadWindow, OnlyWhatWasReceivedWholeIsOpenedAndThenClearedIfWanted) {
     Link.OnSend = [this](const std::string& bytes) {
         if (bytes == "\0[CLEAR]"s) Link.Arrivals.push_back({"\0[OK]"s});
     };
+    Disk.Contents["/home/documents/VEK/.recovery"] = "a file in the folder's place";
     SetStream("INSTRUMENT: K42\r\nEND DATA: 1\r\n");
     Download();
     EXPECT_EQ(Data.CurrentDataFile, "");
@@ -187,6 +194,7 @@ TEST_F(DownloadWindow, OnlyWhatWasReceivedWholeIsOpenedAndThenClearedIfWanted) {
     EXPECT_THAT(User.ShownTexts(),
                 testing::ElementsAre(HasSubstr("not received correctly\r\nReceived 0 lines"),
                                      "Talvex© K42 Data Was Cleared"));
+    EXPECT_THAT(User.Notices.back(), HasSubstr("No copy of the received stream"));
     EXPECT_EQ(Data.ReadingCount, 3);
     box->click();
     EXPECT_EQ(Store.Values["AutoClear"], "NO");

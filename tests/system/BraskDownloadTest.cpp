@@ -82,6 +82,19 @@ TEST_F(BraskDownload, FaultsOfTheLink) {
     }
 }
 
+TEST_F(BraskDownload, AnInterruptEndsItInGoodOrder) {
+    RunningSimulator simulator({"--file", kApril, "--block", "50", "--delay", "100"});
+    const auto download = StartProgram(
+        "brask", {"download", "--json", "--root", At("data"), "--instrument", simulator.Address()});
+    ASSERT_TRUE(simulator.Tells("command [OUTPUT"));
+    if (!download->Interrupt()) GTEST_SKIP() << "without a console nobody can press Ctrl+C";
+    rapidjson::Document document;
+    ASSERT_FALSE(document.Parse(download->ReadLine().c_str()).HasParseError());
+    std::filesystem::remove(document["raw_file"].GetString());
+    EXPECT_EQ(download->ExitStatus(), 1);
+    EXPECT_NE(Log().find("cancelled after"), std::string::npos) << Log();
+}
+
 TEST_F(BraskDownload, GivesUpOrIsNotStarted) {
     const auto with = [this](std::vector<std::string> words) {
         words.insert(words.begin(), {"download", "--root", At("data")});

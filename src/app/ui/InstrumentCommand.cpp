@@ -57,6 +57,7 @@ void InstrumentCommand::mnuReadDataFromTalvexK42_Click() {
     registry_.SetBusy(true);
     collected_ = {};
     collected_.State = CollectState::kRunning;
+    warning_.clear();
     running_ = std::make_unique<Running>(
         links_(*address),
         LinkSystem{system_.User, system_.Words, system_.Disk, system_.Information, system_.Time},
@@ -74,7 +75,7 @@ void InstrumentCommand::mnuReadDataFromTalvexK42_Click() {
 }
 
 void InstrumentCommand::Run() {
-    registry_.Guard(kCommand, [this] { (void)running_->Download.Run(); });
+    registry_.Guard(kCommand, [this] { warning_ = running_->Download.Run().Warning; });
     running_->Window.RunEnded();
 }
 
@@ -95,12 +96,15 @@ void InstrumentCommand::OpenReceived() {
     const std::string file = collected_.ReceivedFile;
     shown_.Open(file, DataSource::kInstrument);
     if (system_.User.Ended()) return;
-    // the load has wiped the notice that came with the filing
-    if (session_.Options.IsYes("NotifyUserOfNewFiles")) {
+    // The load has wiped the notices of the download. That the file is there can be seen; that its
+    // readings are not safe cannot.
+    if (!warning_.empty()) {
+        system_.User.ShowNotice(warning_);
+    } else if (session_.Options.IsYes("NotifyUserOfNewFiles")) {
         system_.User.ShowNotice(system_.Words.Fill(link_texts::kDataFileSaved, {file}));
     }
     if (!registry_.HasReadings()) return;
-    session_.Log.WriteLog("Back From SetViewData(1)");
+    session_.Log.WriteLog(system_.Words.Find(app_texts::kLogViewIsBack));
     registry_.Run("ShowGraphTab");
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "app/Commands.h"
 #include "app/Document.h"
@@ -58,6 +59,7 @@ class InstrumentCommand {
     LinkMaker links_;
     std::optional<InstrumentAddress> overridden_;
     CollectSession collected_;
+    std::string warning_;  // of the last download; empty for none
     RecoveryFolder recovery_;
     // one for all downloads: a stream may repeat the line that the one before ended with
     ReceivedFileExpander expander_;

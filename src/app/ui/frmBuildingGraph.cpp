@@ -43,6 +43,7 @@ frmBuildingGraph::frmBuildingGraph(const Texts& texts, QWidget* parent)
 void frmBuildingGraph::Begin(ProgressMode mode) {
     cancelled_ = false;
     counter_ = 0;
+    Timer1Second->stop();
     const QString text = ToQt(texts_, kModes[static_cast<int>(mode)]);
     setWindowTitle(text);
     lblMode->setText(text);
@@ -50,7 +51,8 @@ void frmBuildingGraph::Begin(ProgressMode mode) {
     cmdCancel->setVisible(mode == ProgressMode::kReadingFile);
     // the last load may have been cancelled
     cmdCancel->setEnabled(true);
-    Timer1Second->start(1000);
+    // verifying counts nothing, and "0 Results" would look like a failure
+    if (mode != ProgressMode::kVerifying) Timer1Second->start(1000);
     // not exec: the work goes on behind it
     show();
 }

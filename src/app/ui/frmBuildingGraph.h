@@ -20,7 +20,7 @@ class frmBuildingGraph final : public QDialog, public ProgressView {
 
     // Shows it with a count of nothing and Cancel not yet asked for.
     void Begin(ProgressMode mode) override;
-    // Shown once a second.
+    // Shown once a second; not while verifying, which has no count.
     void SetCount(std::int64_t count) override { counter_ = count; }
     // Stays true until the next Begin.
     bool Cancelled() const override { return cancelled_; }

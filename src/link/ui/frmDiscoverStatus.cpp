@@ -68,7 +68,7 @@ void frmDiscoverStatus::Arrange() {
     lblElapsed->setObjectName(QStringLiteral("lblElapsed"));
     lblElapsed->setAlignment(Qt::AlignCenter);
     progressBar->setObjectName(QStringLiteral("progressBar"));
-    progressBar->setAccessibleName(windowTitle());
+    progressBar->setAccessibleName(ToQt(texts_, kProgressName));
     // moves without a percentage: the instrument does not say how much it holds
     progressBar->setRange(0, 0);
     progressBar->setTextVisible(false);
@@ -110,6 +110,12 @@ void frmDiscoverStatus::OnDownload(const DownloadDisplay& display) {
     } else {
         Timer2->stop();
         progressBar->setToolTip(QString());
+    }
+    if (step_ > DownloadStep::kReceiving) {
+        // nothing comes any more: the time stays the transfer's, and the bar rests
+        timer10s->stop();
+        progressBar->setRange(0, 1);
+        progressBar->setValue(1);
     }
 }
 

@@ -3,10 +3,13 @@
 #pragma once
 
 #include <cstdio>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/StopSignal.h"
 #include "platform/UserInterface.h"
 
 namespace brask {
@@ -25,6 +28,10 @@ class ConsoleUserInterface final : public UserInterface {
     // JSON document of the shell ends with this list.
     const std::vector<std::string>& Messages() const { return messages_; }
 
+    // Ends the program, as EndProgram does, at the next LetEventsRun after this wish has come; with
+    // none, the system ends it by force again.
+    void EndOn(std::unique_ptr<StopSignal> stop) { stop_ = std::move(stop); }
+
     // Only the text is written; a title means nothing in a terminal.
     void ShowMessage(const Message& message) override;
     // Always wants more: a script must see every rejected line.
@@ -34,13 +41,14 @@ class ConsoleUserInterface final : public UserInterface {
     void BeginProgress(ProgressMode mode) override;
     void SetProgressTotal(std::int64_t expected) override { expected_ = expected; }
     void SetProgressCount(std::int64_t count) override;
-    // An interrupt from the keyboard ends the process; there is no other way to cancel here.
+    // An interrupt from the keyboard ends the process or, with EndOn, the work; there is no other
+    // way to cancel here.
     bool ProgressCancelled() const override { return false; }
     void EndProgress() override;
     void ShowNotice(const std::string& text) override;
     void Beep() override {}
     void SetWaitCursor(bool) override {}
-    void LetEventsRun() override {}
+    void LetEventsRun() override { ended_ = ended_ || (stop_ && stop_->Requested()); }
     void EndProgram() override { ended_ = true; }
     bool Ended() const override { return ended_; }
 
@@ -51,6 +59,7 @@ class ConsoleUserInterface final : public UserInterface {
     std::FILE* out_;
     const Clock& clock_;
     ConsoleOptions options_;
+    std::unique_ptr<StopSignal> stop_;
     std::vector<std::string> messages_;
     std::int64_t nextProgress_ = 0;  // steady milliseconds
     std::int64_t expected_ = 0;      // 0 while unknown

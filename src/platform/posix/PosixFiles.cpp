@@ -102,9 +102,13 @@ Result<std::string> PosixFiles::CreateTemporary(const std::string& namePrefix) {
     // fails where TMPDIR names nothing usable
     std::string path = std::filesystem::temp_directory_path(code).string();
     if (code) path = "/tmp";
+    const std::string directory = path;
     path += "/" + namePrefix + "XXXXXX";
     const Handle handle(::mkostemp(path.data(), O_CLOEXEC));
-    if (!handle.Open()) return LastError();
+    if (!handle.Open()) {
+        const Error error = LastError();
+        return Error{error.Number, directory + ": " + error.Reason};
+    }
     return path;
 }
 

@@ -84,7 +84,13 @@ class KernelInfraredSocket final : public InfraredSocket {
         const ssize_t sent =
             ::send(socket_.Get(), bytes.data(), bytes.size(), flags | MSG_NOSIGNAL);
         if (sent < 0) return LastError();
-        return static_cast<std::size_t>(sent);
+        if (static_cast<std::size_t>(sent) < bytes.size()) {
+            // the rest would arrive as a command of its own, with a first byte that is no control
+            // byte
+            errno = ENOBUFS;
+            return LastError();
+        }
+        return bytes.size();
     }
 
     Handle socket_;

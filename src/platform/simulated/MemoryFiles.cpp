@@ -91,7 +91,9 @@ Status MemoryFiles::Flush(const std::string& path) {
 }
 
 Result<std::string> MemoryFiles::CreateTemporary(const std::string& namePrefix) {
-    if (Status step = Step(); !step.Ok()) return step.Why();
+    if (Status step = Step(); !step.Ok()) {
+        return Error{step.Why().Number, "/tmp: " + step.Why().Reason};
+    }
     const std::string path = "/tmp/" + namePrefix + std::to_string(Operations);
     Contents[path] = "";
     return path;

@@ -84,7 +84,7 @@ class TcpInfraredSocket final : public InfraredSocket {
     Status Close() override { return stream_ ? stream_->Close() : Status(); }
 
   private:
-    Error BadFrame(const char* reason) const { return {numbers_.BadFrame, reason}; }
+    Error BadFrame(const std::string& reason) const { return {numbers_.BadFrame, reason}; }
 
     // Sends what the other side has not taken yet.
     Status Push() {
@@ -125,7 +125,7 @@ class TcpInfraredSocket final : public InfraredSocket {
             incoming.Closed = got.Value().Closed;
             frame = decoder_.Next();
         }
-        if (!frame.Ok()) return BadFrame("not a frame of this link");
+        if (!frame.Ok()) return BadFrame(frame.Why().Reason);
         incoming.Frame = std::move(frame.Value());
         return incoming;
     }

@@ -127,7 +127,9 @@ Result<std::string> WindowsFiles::CreateTemporary(const std::string& namePrefix)
     // ends in a separator
     if (GetTempPathW(MAX_PATH + 1, directory) == 0) return LastError();
     auto made = windows::CreateUnique(directory + windows::ToWide(namePrefix));
-    if (!made.Ok()) return made.Why();
+    if (!made.Ok()) {
+        return Error{made.Why().Number, windows::ToUtf8(directory) + ": " + made.Why().Reason};
+    }
     return windows::ToUtf8(made.Value().Path);
 }
 

@@ -114,7 +114,9 @@ class WinsockInfraredSocket final : public InfraredSocket {
     Result<std::size_t> Send(std::string_view bytes, int flags) {
         const int sent = ::send(socket_, bytes.data(), static_cast<int>(bytes.size()), flags);
         if (sent == SOCKET_ERROR) return LastError();
-        return static_cast<std::size_t>(sent);
+        // the rest would arrive as a command of its own, with a first byte that is no control byte
+        if (static_cast<std::size_t>(sent) < bytes.size()) return NumberedError(WSAENOBUFS);
+        return bytes.size();
     }
 
     SOCKET socket_;

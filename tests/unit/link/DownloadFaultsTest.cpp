@@ -115,6 +115,7 @@ TEST_F(DownloadFaults, CancelAtEveryTurnOfTheEvents) {
                       ranThrough ? CollectState::kFinished : CollectState::kCancelled);
             EXPECT_EQ(download.Collect.ReceivedFile.empty(), !ranThrough);
             EXPECT_EQ(download.Link.OpenSockets, 0);
+            EXPECT_EQ(download.Recovery.List().size(), report.Bytes == 0 ? 0U : 1U) << at;
             if (!ranThrough) {
                 EXPECT_LE(download.Clock.Milliseconds - cancelledAt, 200) << at;
                 EXPECT_EQ(download.Link.Sent.size(), sentBefore) << at;

@@ -101,6 +101,23 @@ TEST(DownloadSession, ABrokenLinkEndsTheProgramAndTheBytesAreKept) {
     EXPECT_EQ(download.User.ShownTexts(), std::vector{download.Information.ErrorText(5)});
     EXPECT_EQ(download.Collect.State, CollectState::kCancelled);
     EXPECT_EQ(download.Recovery.List().size(), 1U);
+    const std::string& log = download.Disk.Contents[download.Log.Path()];
+    EXPECT_NE(log.find("broke after 30 bytes: "), std::string::npos) << log;
+}
+
+TEST(DownloadSession, FailuresBeforeTheFirstByteSayWhere) {
+    Download unstarted;
+    unstarted.Link.StartError = 5;
+    unstarted.Run();
+    bool said = false;
+    for (const DownloadDisplay& display : unstarted.View.All) {
+        said = said || display.Labels[4] == unstarted.Information.ErrorText(5);
+    }
+    EXPECT_TRUE(said);
+    Download unwritable;
+    unwritable.Disk.FailAt = unwritable.Disk.Operations;
+    unwritable.Run();
+    EXPECT_NE(unwritable.User.Notices.at(0).find("could be made in /tmp: "), std::string::npos);
 }
 
 TEST(DownloadSession, TheNextDownloadRepeatsTheLastLineOfTheOneBefore) {

@@ -80,6 +80,10 @@ TEST(IrdaTransport, FailuresAreTold) {
             EXPECT_TRUE(shown.Text == text || fault == &Link::OpenError) << shown.Text;
             EXPECT_EQ(transport.Irda.LibraryFailed(), libraryFailed) << title;
             EXPECT_EQ(transport.Parts.User.Ended(), dialog && !retry);
+            if (transport.Parts.User.Ended()) {
+                EXPECT_EQ(transport.Irda.StartSockets(), fault != &Link::StartError);
+                EXPECT_EQ(transport.Parts.User.Shown.size(), 1U) << "nobody reads it";
+            }
             EXPECT_EQ(transport.Parts.Link.OpenSockets, 0);
         }
     }
