@@ -70,7 +70,8 @@ TEST_F(HandheldWindow, OpensTheFirstFileAndClosesByItself) {
 TEST_F(HandheldWindow, StaysAfterAnErrorUntilItIsClosed) {
     Begin([](ScriptedHandheld& handheld) {
         handheld.Contents = {{std::string(kPda) + "A.csv", kThreeReadings}};
-        handheld.FailAt = 8;  // the deletion, after three operations to find and five to copy
+        handheld.FailAt =
+            10;  // the deletion, after three operations to find, five to copy, two to look again
     });
     auto* const button = Find<QPushButton>("cmdCancel", shown_);
     EXPECT_TRUE(QTest::qWaitFor([button] { return button->text() == QStringLiteral("Close"); }));
@@ -123,7 +124,7 @@ TEST_F(HandheldWindow, MissingSoftwareIsToldUntilNotWanted) {
 }
 
 TEST_F(HandheldWindow, TheAddressIsChosenInTheOptions) {
-    Start();
+    Start().Handheld().Override({true, ""});
     Find<TabControl>("SSTab1")->setCurrentIndex(3);
     auto* const box = Find<QComboBox>("cmbHandheldAddress");
     const auto type = [box](const char* text) {
