@@ -57,7 +57,9 @@ TEST_F(BraskRetrieve, WithoutAHandheldNothingIsDone) {
         "Please install a Synchronization Program before accessing a "
         "PocketPC\n";
     const std::vector<End> ends = {
-        {{"retrieve", "--handheld", "dir:" + At("none")}, 1, "Unable to connect to PocketPC\n"},
+        {{"retrieve", "--handheld", "dir:" + At("none")},
+         1,
+         "Unable to connect to PocketPC\nThere is no folder " + At("none") + ". Connect"},
         {{"retrieve", "--handheld", "rapi"}, 1, noSync},
         {{"retrieve", "--handheld", "usb"},
          2,
