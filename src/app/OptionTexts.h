@@ -101,10 +101,12 @@ inline constexpr auto kDataAccess = TextRow("options", "Data Access");
 // %1 is the shared directory, or the user's name and %2 the user's directory.
 inline constexpr auto kAllUsers = TextRow("options", "All Users (%1)");
 inline constexpr auto kOneUser = TextRow("options", "User %1 (%2)");
-// The first is the title of the frame and the label of its first box.
+// The titles of frames and the labels of their boxes.
 inline constexpr auto kInstrumentLink = TextRow("options", "Instrument Link");
 inline constexpr auto kInstrumentHint = TextRow("options", "irda, or tcp:HOST:PORT");
 inline constexpr auto kHandheld = TextRow("options", "Handheld");
+// Tells the button from the one for the data directory where only names are read out.
+inline constexpr auto kHandheldBrowse = TextRow("options", "Handheld Browse");
 // Stands in the box while it is empty.
 inline constexpr auto kHandheldHint =
     TextRow("options", "dir: and the folder that the handheld or its card appears in");

@@ -23,6 +23,13 @@ struct Retrieved {
     std::string Opened;
 };
 
+// Keeps the last line that a window would show.
+struct LastLine : RetrievalView {
+    std::string Text;
+
+    void ShowStatus(const std::string& text) override { Text = text; }
+};
+
 Retrieved Retrieve(Shell& shell, const CommandLine& line, const HandheldAddress& address,
                    CommandSession& session) {
     Files& disk = shell.System.Disk();
@@ -39,12 +46,16 @@ Retrieved Retrieve(Shell& shell, const CommandLine& line, const HandheldAddress&
     DiagnosticLog log(disk, shell.System.Time());
     const auto handheld = MakeHandheldAccess(address, disk);
     CollectSession collected;
-    RetrievalView nobody;
+    LastLine view;
     CollectionRetrieval retrieval({*handheld, disk, shell.User, shell.Words,
                                    shell.System.Information(), directories, recovery, log},
-                                  address, session.Options(), collected, nobody);
+                                  address, session.Options(), collected, view);
     Retrieved retrieved;
     retrieved.Outcome = retrieval.Run();
+    // what to do about it
+    if (retrieved.Outcome == RetrievalOutcome::kNotConnected && !view.Text.empty()) {
+        shell.User.ShowNotice(view.Text);
+    }
     retrieved.Rows = retrieval.Rows();
     retrieved.Opened = collected.FirstCopied;
     return retrieved;

@@ -1,5 +1,7 @@
 #include "handheld/CollectionCopy.h"
 
+#include <optional>
+
 #include "data/DataTexts.h"
 #include "data/FileNames.h"
 #include "data/Sha256.h"
@@ -19,12 +21,12 @@ CopyOutcome CollectionCopy::CopyToPc(const std::string& name) {
     // it may have been removed since the program started
     static_cast<void>(parts_.Disk.MakeDirectoryChain(directory.substr(0, directory.size() - 1)));
     const std::string target = directory + SafeFileName(name);
-    const ReadingOutcome reading = CopyAndPlace(*opened.File, target);
-    if (reading.How == kComplete) {
-        outcome.Source = opened.Path;
-        outcome.Target = target;
+    outcome.IsOneFile = parts_.Handheld.IsFileOfPc(opened.Path, target);
+    if (outcome.IsOneFile) {
+        outcome.Problem = parts_.Words.Fill(kSameFile, {target});
+        parts_.Log.WriteLog(outcome.Problem);
     } else {
-        outcome.Problem = Report(reading, target);
+        Copy(opened, target, outcome);
     }
     if (!opened.File->Close().Ok()) {
         ShowMessage(parts_.Words.Find(kCloseFailed));
@@ -33,21 +35,34 @@ CopyOutcome CollectionCopy::CopyToPc(const std::string& name) {
     return outcome;
 }
 
+void CollectionCopy::Copy(const Opened& opened, const std::string& target, CopyOutcome& outcome) {
+    const ReadingOutcome reading = CopyAndPlace(*opened.File, target, outcome);
+    if (reading.How == kComplete) {
+        outcome.Source = {opened.Path, reading.Length};
+        outcome.Target = target;
+    } else {
+        outcome.Problem = Report(reading, target);
+    }
+}
+
 CollectionCopy::Opened CollectionCopy::Open(const std::string& name, CopyOutcome& outcome) {
     std::string path;
-    Error why;
+    std::optional<Error> why;
     for (const char* const folder : kCollectionFolders) {
+        auto file = parts_.Handheld.Open(folder + name);
+        if (file.Ok()) return {folder + name, std::move(file.Value())};
+        // that the other folder has no such file says less
+        if (why && !NothingThere(*why)) continue;
         path = folder + name;
-        auto file = parts_.Handheld.Open(path);
-        if (file.Ok()) return {path, std::move(file.Value())};
         why = file.Why();
     }
-    outcome.Problem = parts_.TextOf(why);
+    outcome.Problem = parts_.TextOf(*why);
     ShowMessage(parts_.Words.Fill(kUnableToOpen, {path, outcome.Problem}));
     return {};
 }
 
-ReadingOutcome CollectionCopy::CopyAndPlace(HandheldFile& file, const std::string& target) {
+ReadingOutcome CollectionCopy::CopyAndPlace(HandheldFile& file, const std::string& target,
+                                            CopyOutcome& outcome) {
     auto started = parts_.Disk.Replace(target);
     if (!started.Ok()) return {kNotTaken, started.Why()};
     Sha256 sum;
@@ -61,6 +76,11 @@ ReadingOutcome CollectionCopy::CopyAndPlace(HandheldFile& file, const std::strin
     if (reading.How != kComplete) return reading;
     const auto kept = parts_.Recovery.KeepReplaced(target, sum.Hex());
     if (!kept.Ok()) return {kNotTaken, kept.Why()};
+    if (!kept.Value().empty()) {
+        outcome.Kept =
+            parts_.Words.Fill(kReplacedKept, {BaseName(parts_.Disk, target), kept.Value()});
+        parts_.Log.WriteLog(outcome.Kept);
+    }
     const Status placed = started.Value()->Commit();
     return placed.Ok() ? reading : ReadingOutcome{kNotTaken, placed.Why()};
 }

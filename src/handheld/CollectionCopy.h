@@ -1,6 +1,7 @@
 // Copies data files of the handheld to the computer's directory for them.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -9,11 +10,19 @@
 
 namespace brask {
 
-// Of one file. The two paths are set only when the copy is complete and on disk.
+// A complete copy. The path is empty when there is none.
+struct CopiedFile {
+    std::string Path;          // on the handheld
+    std::uint64_t Length = 0;  // bytes that were copied
+};
+
+// Of one file. Source and target are set only when the copy is complete and on disk.
 struct CopyOutcome {
-    std::string Source;   // on the handheld
-    std::string Target;   // on the PC
-    std::string Problem;  // what went wrong, in words; the copy may be complete all the same
+    CopiedFile Source;
+    std::string Target;      // on the PC
+    std::string Problem;     // what went wrong, in words; the copy may be complete all the same
+    std::string Kept;        // where the file is that the copy has replaced, in words
+    bool IsOneFile = false;  // source and target are one file: to be left alone
 };
 
 class CollectionCopy {
@@ -34,7 +43,10 @@ class CollectionCopy {
 
     // No file, and a message, when neither folder has one that can be opened.
     Opened Open(const std::string& name, CopyOutcome& outcome);
-    ReadingOutcome CopyAndPlace(HandheldFile& file, const std::string& target);
+    // Sets `outcome.Kept`.
+    ReadingOutcome CopyAndPlace(HandheldFile& file, const std::string& target,
+                                CopyOutcome& outcome);
+    void Copy(const Opened& opened, const std::string& target, CopyOutcome& outcome);
     // Says what went wrong where it is to be said; in words.
     std::string Report(const ReadingOutcome& reading, const std::string& target);
     void ShowMessage(const std::string& text);

@@ -11,7 +11,7 @@ namespace {
 
 using namespace handheld_texts;
 
-// A listing that does not end is no handheld's.
+// In one folder, names without a text among them: a listing that does not end is no handheld's.
 constexpr std::size_t kMostFiles = 10000;
 
 }  // namespace
@@ -95,14 +95,16 @@ void CollectionRetrieval::FindFiles() {
 
 void CollectionRetrieval::ListFolder(const std::string& folder) {
     auto found = parts_.Handheld.FindFirst(folder + "*.csv");
-    while (found.Ok() && rows_.size() < kMostFiles) {
+    for (std::size_t answers = 0; found.Ok() && answers < kMostFiles; ++answers) {
         if (!found.Value().empty()) rows_.push_back({found.Value(), false, false, ""});
         if (!MayGoOn()) return;
         found = parts_.Handheld.FindNext();
     }
-    if (found.Ok() || NothingThere(found.Why())) return;
-    const std::string reason = parts_.TextOf(found.Why());
-    if (ContainsIgnoringCase(reason, "no more files")) return;
+    if (!found.Ok() && (NothingThere(found.Why()) || ListingAtEnd(found.Why()))) return;
+    const std::string reason = found.Ok()
+                                   ? parts_.Words.Fill(kTooMany, {std::to_string(kMostFiles)})
+                                   : parts_.TextOf(found.Why());
+    if (!found.Ok() && ContainsIgnoringCase(reason, "no more files")) return;
     listingError_ = parts_.Words.Fill(kCannotList, {folder, reason});
     parts_.User.ShowNotice(listingError_);
     parts_.Log.WriteLog(listingError_);
@@ -115,7 +117,12 @@ void CollectionRetrieval::Retrieve(std::size_t number) {
     const CopyOutcome copy = copy_.CopyToPc(row.Name);
     Copied(copy);
     row.Status = copy.Problem;
-    if (!MayGoOn()) {
+    const auto add = [&row](const std::string& text) {
+        row.Status += (row.Status.empty() ? "" : "; ") + text;
+    };
+    if (!copy.Kept.empty()) add(copy.Kept);
+    row.Downloaded = !copy.Target.empty();
+    if (copy.IsOneFile || !MayGoOn()) {
         view_.ShowRow(number, row);
         return;
     }
@@ -127,11 +134,8 @@ void CollectionRetrieval::Retrieve(std::size_t number) {
     const Status deleted = deletion_.DeleteCollection(row.Name, copy.Source);
     row.Deleted = deleted.Ok();
     otherFailed_ = otherFailed_ || !deleted.Ok();
-    const auto add = [&row](const std::string& text) {
-        row.Status += (row.Status.empty() ? "" : "; ") + text;
-    };
     // a file that could not even be opened has the same reason twice
-    if (!deleted.Ok() && parts_.TextOf(deleted.Why()) != row.Status) {
+    if (!deleted.Ok() && parts_.TextOf(deleted.Why()) != copy.Problem) {
         add(parts_.TextOf(deleted.Why()));
     }
     for (const std::string& note : deletion_.NotesOf(row.Name)) add(note);

@@ -9,6 +9,15 @@ namespace {
 
 // One round trip to the handheld each.
 constexpr std::size_t kBlock = 4096;
+// After so many bytes the length is asked for, and so many more than that a file may have grown
+// by then; one that never ends would fill the disk.
+constexpr std::uint64_t kAskEvery = std::uint64_t{4} << 20U;
+
+bool IsEndless(HandheldFile& file, std::uint64_t length) {
+    if (length < kAskEvery || length % kAskEvery >= kBlock) return false;
+    const auto size = file.Size();
+    return size.Ok() && length > size.Value() + kAskEvery;
+}
 
 }  // namespace
 
@@ -24,6 +33,7 @@ ReadingOutcome ReadThrough(HandheldFile& file, const Texts& texts,
         if (!read.Ok()) return {kReadFailed, read.Why()};
         if (read.Value() == 0) break;
         length += read.Value();
+        if (IsEndless(file, length)) return {kShort, {0, texts.Find(handheld_texts::kEndless)}};
         const Status taken = take({block.data(), read.Value()});
         if (!taken.Ok()) return {kNotTaken, taken.Why()};
     }
@@ -32,7 +42,7 @@ ReadingOutcome ReadThrough(HandheldFile& file, const Texts& texts,
     const auto size = file.Size();
     if (!size.Ok()) return {kShort, size.Why()};
     if (length < size.Value()) return {kShort, {0, texts.Find(handheld_texts::kShortCopy)}};
-    return {};
+    return {kComplete, {}, length};
 }
 
 }  // namespace brask

@@ -1,6 +1,7 @@
 // Reading one file of the handheld from its start to its end.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string_view>
 
@@ -14,12 +15,13 @@ struct ReadingOutcome {
     enum class End {
         kComplete,    // every byte was read and taken
         kReadFailed,  // the handheld reported an error
-        kShort,       // the handheld said nothing, but bytes are missing or may be
+        kShort,       // the handheld said nothing, but bytes are missing, may be, or are too many
         kNotTaken,    // `take` failed
         kStopped,     // `mayGoOn` said no
     };
     End How = End::kComplete;
-    Error Why;  // when it is not complete
+    Error Why;                 // when it is not complete
+    std::uint64_t Length = 0;  // of a complete one, in bytes
 };
 
 // Hands every block to `take` in turn and asks `mayGoOn` before each. Ends at the first failure:

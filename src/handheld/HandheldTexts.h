@@ -45,11 +45,18 @@ inline constexpr auto kRemoteMissing =
 inline constexpr auto kKeptOnPc = TextRow("handheld", "%1 was kept as %2");
 inline constexpr auto kKeptOnHandheld = TextRow("handheld", "%1 was moved to %2 on the PocketPC");
 inline constexpr auto kNotKept = TextRow("handheld", "%1 could not be kept: %2");
+// %1 is the name of a data file of the PC whose place another one of that name has taken.
+inline constexpr auto kReplacedKept = TextRow("handheld", "An older %1 was kept as %2");
+// %1 is the full path.
+inline constexpr auto kSameFile =
+    TextRow("handheld", "It was left alone: it is the same file as %1 on this computer");
 // A notice; %1 is the full path.
 inline constexpr auto kDataFileSaved = TextRow("handheld", "Data file saved: %1");
 // %1 is a folder of the handheld.
 inline constexpr auto kCannotList = TextRow("handheld", "Cannot list %1 on the PocketPC: %2");
+inline constexpr auto kTooMany = TextRow("handheld", "it names more than %1 files");
 inline constexpr auto kShortCopy = TextRow("handheld", "it ended too early");
+inline constexpr auto kEndless = TextRow("handheld", "it goes on beyond its end");
 inline constexpr auto kRunStopped = TextRow("handheld", "stopped");
 
 // The grid.

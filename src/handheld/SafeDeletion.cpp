@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "data/FileNames.h"
 #include "handheld/CollectionFolders.h"
 #include "handheld/HandheldTexts.h"
 
@@ -26,13 +27,15 @@ std::string KeptPath(const std::string& name, int number) {
 
 }  // namespace
 
-Status SafeDeletion::DeleteCollection(const std::string& name, const std::string& copied) {
+Status SafeDeletion::DeleteCollection(const std::string& name, const CopiedFile& copied) {
     bool gone = false;
     std::optional<Error> why;
+    std::optional<Error> copyStays;
     for (const char* const folder : kCollectionFolders) {
         const std::string path = folder + name;
         const Status data = DeleteOne(path, copied);
         gone = gone || data.Ok();
+        if (!data.Ok() && path == copied.Path) copyStays = data.Why();
         // that the other folder has no such file says less than why this one could not be deleted
         if (!data.Ok() && (!why || NothingThere(*why))) why = data.Why();
         const std::string companion = CompanionOf(path);
@@ -40,12 +43,18 @@ Status SafeDeletion::DeleteCollection(const std::string& name, const std::string
         // Without a companion the other folder follows, also for a file of the same name there that
         // is still to be copied. DeleteOne keeps its bytes.
     }
+    // also when another file of that name is gone: this one is what the user was told of
+    if (copyStays) return *copyStays;
     return gone ? Status() : Status(*why);
 }
 
-Status SafeDeletion::DeleteOne(const std::string& path, const std::string& copied) {
+Status SafeDeletion::DeleteOne(const std::string& path, const CopiedFile& copied) {
     if (!mayGoOn_()) return Error{0, parts_.Words.Find(kRunStopped)};
-    if (path == copied) return parts_.Handheld.Delete(path);
+    const std::string onPc = parts_.Directories.PocketPcDir() + SafeFileName(NameIn(path));
+    if (parts_.Handheld.IsFileOfPc(path, onPc)) {
+        return Error{0, parts_.Words.Fill(kSameFile, {onPc})};
+    }
+    if (path == copied.Path && StillAsCopied(copied)) return parts_.Handheld.Delete(path);
     for (int i = 0; i < kTries; ++i) {
         const auto kept = SaveOnce(path);
         if (kept.Ok()) {
@@ -59,6 +68,13 @@ Status SafeDeletion::DeleteOne(const std::string& path, const std::string& copie
         if (!mayGoOn_()) return kept.Why();
     }
     return MoveAside(path);
+}
+
+bool SafeDeletion::StillAsCopied(const CopiedFile& copied) {
+    const auto file = parts_.Handheld.Open(copied.Path);
+    if (!file.Ok()) return false;
+    const auto size = file.Value()->Size();
+    return size.Ok() && size.Value() == copied.Length;
 }
 
 Result<std::string> SafeDeletion::SaveOnce(const std::string& path) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "handheld/CollectionCopy.h"
 #include "handheld/HandheldReading.h"
 #include "handheld/RetrievalParts.h"
 
@@ -17,10 +18,11 @@ class SafeDeletion {
         : parts_(parts), mayGoOn_(std::move(mayGoOn)) {}
 
     // Deletes the data file of this name and its companion: in the first folder, and in the second
-    // when the companion was not deleted in the first. `copied` is the path that a complete copy
-    // was just made of, empty for none. Ok when a data file is gone; a missing companion is no
-    // failure.
-    Status DeleteCollection(const std::string& name, const std::string& copied);
+    // when the companion was not deleted in the first. `copied` is what a complete copy was
+    // just made of. It counts as not copied when its length has changed since. Ok when a data file
+    // is gone, and that one if any; a missing companion is no failure. What is also the PC's copy
+    // under another path stays.
+    Status DeleteCollection(const std::string& name, const CopiedFile& copied);
 
     // Where bytes of the collections of this name were kept so far, in words.
     std::vector<std::string> NotesOf(const std::string& name) const;
@@ -31,7 +33,9 @@ class SafeDeletion {
         std::string Text;
     };
 
-    Status DeleteOne(const std::string& path, const std::string& copied);
+    Status DeleteOne(const std::string& path, const CopiedFile& copied);
+    // Whether the file is still what was copied, as far as its length tells.
+    bool StillAsCopied(const CopiedFile& copied);
     // The kept file's path.
     Result<std::string> SaveOnce(const std::string& path);
     Status MoveAside(const std::string& path);

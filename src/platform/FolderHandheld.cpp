@@ -23,8 +23,8 @@ std::string FromPath(const fs::path& path) {
 
 enum class Kind { kAny, kFiles };
 
-// The names of a folder's entries; none when it cannot be listed.
-std::vector<std::string> NamesIn(const std::string& folder, Kind kind) {
+// The names of a folder's entries; none when there is no such folder.
+Result<std::vector<std::string>> NamesIn(const std::string& folder, Kind kind) {
     std::vector<std::string> names;
     std::error_code error;
     for (fs::directory_iterator entry(ToPath(folder), error), end; !error && entry != end;
@@ -33,6 +33,7 @@ std::vector<std::string> NamesIn(const std::string& folder, Kind kind) {
         if (kind == Kind::kFiles && !entry->is_regular_file(unreadable)) continue;
         names.push_back(FromPath(entry->path().filename()));
     }
+    if (Error why{error.value(), error.message()}; error && !NothingThere(why)) return why;
     return names;
 }
 
@@ -45,16 +46,24 @@ bool MatchesPattern(const std::string& name, const std::string& pattern) {
 
 class FolderFile final : public HandheldFile {
   public:
-    explicit FolderFile(std::unique_ptr<InputFile> file) : file_(std::move(file)) {}
+    FolderFile(Files& files, std::string path, std::unique_ptr<InputFile> file)
+        : files_(files), path_(std::move(path)), file_(std::move(file)) {}
 
     Result<std::size_t> Read(std::span<char> buffer) override { return file_->Read(buffer); }
-    Result<std::uint64_t> Size() override { return file_->Size(); }
+    Result<std::uint64_t> Size() override {
+        // the open file knows only how long it was then; it may have grown
+        const auto again = files_.Open(path_);
+        if (!again.Ok()) return again.Why();
+        return again.Value()->Size();
+    }
     Status Close() override {
         file_.reset();
         return {};
     }
 
   private:
+    Files& files_;
+    std::string path_;
     std::unique_ptr<InputFile> file_;
 };
 
@@ -77,7 +86,9 @@ std::optional<std::string> FolderHandheld::Native(const std::string& path) const
         std::string entry = native;
         entry.append(1, files_.Separator()).append(name);
         if (!files_.Exists(entry)) {
-            const auto names = NamesIn(native, Kind::kAny);
+            // what is wrong with a folder shows when the path is used
+            const auto listed = NamesIn(native, Kind::kAny);
+            const auto names = listed.Ok() ? listed.Value() : std::vector<std::string>();
             const auto other = std::find_if(names.begin(), names.end(), [&](const std::string& n) {
                 return SameIgnoringCase(n, name);
             });
@@ -94,7 +105,9 @@ Result<std::string> FolderHandheld::FindFirst(const std::string& pattern) {
     if (last == std::string::npos) return NoMoreFiles();
     const auto folder = Native(pattern.substr(0, last));
     if (!folder) return OutsideTheFolder();
-    for (std::string& name : NamesIn(*folder, Kind::kFiles)) {
+    auto names = NamesIn(*folder, Kind::kFiles);
+    if (!names.Ok()) return names.Why();
+    for (std::string& name : names.Value()) {
         // "\" may be part of a name here, but parts paths of a handheld
         const bool plain = name.find('\\') == std::string::npos;
         if (plain && MatchesPattern(name, pattern.substr(last + 1))) {
@@ -121,8 +134,14 @@ Result<std::unique_ptr<HandheldFile>> FolderHandheld::Open(const std::string& pa
     if (!native) return OutsideTheFolder();
     auto opened = files_.Open(*native);
     if (!opened.Ok()) return opened.Why();
-    std::unique_ptr<HandheldFile> file = std::make_unique<FolderFile>(std::move(opened.Value()));
+    std::unique_ptr<HandheldFile> file =
+        std::make_unique<FolderFile>(files_, *native, std::move(opened.Value()));
     return file;
+}
+
+bool FolderHandheld::IsFileOfPc(const std::string& path, const std::string& native) {
+    const auto own = Native(path);
+    return own && files_.SameFile(*own, native);
 }
 
 Status FolderHandheld::Delete(const std::string& path) {

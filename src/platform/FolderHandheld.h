@@ -21,10 +21,12 @@ class FolderHandheld final : public HandheldAccess {
     bool LinkHasComeUp() override { return false; }
     // Whether the folder exists.
     bool Connected() override;
-    // Files come in the order of their names, letter case aside.
+    // Files come in the order of their names, letter case aside. A missing folder has none; one
+    // that cannot be listed is an error.
     Result<std::string> FindFirst(const std::string& pattern) override;
     Result<std::string> FindNext() override;
     Result<std::unique_ptr<HandheldFile>> Open(const std::string& path) override;
+    bool IsFileOfPc(const std::string& path, const std::string& native) override;
     Status Delete(const std::string& path) override;
     Status Move(const std::string& from, const std::string& to) override;
     Status MakeFolder(const std::string& path) override;

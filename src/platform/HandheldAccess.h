@@ -19,6 +19,10 @@ namespace brask {
 // handheld's for a missing folder.
 inline bool NothingThere(const Error& error) { return error.Number == 2 || error.Number == 3; }
 
+// Whether an error says that a listing is at its end: 18 is the handheld's number. Its text comes
+// in the user's language.
+inline bool ListingAtEnd(const Error& error) { return error.Number == 18; }
+
 // Whether an error says that the name is taken: 80 and 183 on a handheld, 17 for a folder.
 inline bool NameTaken(const Error& error) {
     return error.Number == 17 || error.Number == 80 || error.Number == 183;
@@ -53,13 +57,19 @@ class HandheldAccess {
     virtual bool Connected() = 0;
 
     // The name of the first file (no folder) that matches a path whose last part may be "*.csv";
-    // an error whose text holds "no more files" when none does. Names hold no "\".
+    // an error that is ListingAtEnd, or whose text holds "no more files", when none does. Names
+    // hold no "\".
     virtual Result<std::string> FindFirst(const std::string& pattern) = 0;
     // The next one of the last FindFirst.
     virtual Result<std::string> FindNext() = 0;
 
     // Opens an existing file; others may read it meanwhile.
     virtual Result<std::unique_ptr<HandheldFile>> Open(const std::string& path) = 0;
+    // Whether a file of the handheld is this one of the PC (a native path): a folder that stands
+    // for a handheld may hold links, or be one. Copying it there and deleting it would lose it.
+    virtual bool IsFileOfPc(const std::string& /*path*/, const std::string& /*native*/) {
+        return false;
+    }
     // Removes one file.
     virtual Status Delete(const std::string& path) = 0;
     // Gives a file another path. An existing target is refused.

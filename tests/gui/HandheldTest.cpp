@@ -60,7 +60,8 @@ TEST_F(HandheldWindow, OpensTheFirstFileAndClosesByItself) {
 
 TEST_F(HandheldWindow, StaysAfterAnErrorUntilItIsClosed) {
     Begin([](ScriptedHandheld& handheld) {
-        handheld.FailAt = 8;  // the deletion, after three operations to find and five to copy
+        // the deletion, after three operations to find, five to copy and two to look again
+        handheld.FailAt = 10;
     });
     auto* const button = Find<QPushButton>("cmdCancel", shown_);
     EXPECT_TRUE(QTest::qWaitFor([button] { return button->text() == QStringLiteral("Close"); }));
@@ -102,7 +103,7 @@ TEST_F(HandheldWindow, MissingSoftwareIsToldUntilNotWanted) {
 }
 
 TEST_F(HandheldWindow, TheAddressIsChosenInTheOptions) {
-    Start();
+    Start().Handheld().Override({true, ""});
     auto* const box = Find<QComboBox>("cmbHandheldAddress");
     const auto type = [box](const char* text) {
         box->lineEdit()->setText(QString::fromLatin1(text));

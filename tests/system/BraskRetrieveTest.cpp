@@ -53,7 +53,9 @@ TEST_F(BraskRetrieve, EmptiesACardAndSaysWhereEverythingIs) {
 TEST_F(BraskRetrieve, WithoutAHandheldNothingIsDone) {
     using Case = std::tuple<std::vector<std::string>, int, std::string>;
     const Case cases[] = {
-        {{"--handheld", "dir:" + At("none")}, 1, "Unable to connect to PocketPC\n"},
+        {{"--handheld", "dir:" + At("none")},
+         1,
+         "Unable to connect to PocketPC\nThere is no folder " + At("none")},
         {{"--handheld", "rapi"}, 1, "Please install a Synchronization Program before accessing a "},
         {{"--handheld", "usb"}, 2, "option --handheld: usb is neither rapi nor dir:PATH\n"},
         {{"--handheld", "rapi", "--yes"}, 1, "Type mismatch"}};

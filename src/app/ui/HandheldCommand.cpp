@@ -100,8 +100,13 @@ void HandheldCommand::Serve(ProgramOptionsPage& page) {
 
 void HandheldCommand::AddressChosen(ProgramOptionsPage& page, const QString& text) {
     const std::string address = FromQt(text.trimmed());
-    if (ParseHandheldAddress(address)) {
-        session_.Options.Save("HandheldAddress", address);
+    if (const auto parsed = ParseHandheldAddress(address)) {
+        // a relative folder would be another one when the program starts elsewhere
+        const bool folder = !parsed->Folder.empty();
+        session_.Options.Save("HandheldAddress",
+                              folder ? "dir:" + system_.Disk.Absolute(parsed->Folder) : address);
+        // who chooses now does not mean what the program was started with
+        overridden_.reset();
     } else {
         system_.User.ShowNotice(system_.Words.Fill(app_texts::kBadHandheld, {address}));
     }

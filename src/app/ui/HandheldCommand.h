@@ -35,7 +35,7 @@ class HandheldCommand {
     HandheldCommand(const HandheldCommand&) = delete;
     HandheldCommand& operator=(const HandheldCommand&) = delete;
 
-    // Takes this handheld instead of the stored one, until the program ends.
+    // Takes this handheld instead of the stored one, until another is chosen or the program ends.
     void Override(HandheldAddress address) { overridden_ = std::move(address); }
     // Makes the link to an address in another way than by MakeHandheldAccess.
     using Maker = std::function<std::unique_ptr<HandheldAccess>(const HandheldAddress&)>;

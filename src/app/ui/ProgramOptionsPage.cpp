@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "app/OptionTexts.h"
+#include "platform/HandheldAddress.h"
 #include "platform/qt/QtText.h"
 
 namespace brask {
@@ -22,7 +23,8 @@ ProgramOptionsPage::ProgramOptionsPage(const Texts& texts, QWidget* parent)
     optDataAccess = controls_.Options("optDataAccess", frameXPDataAccess, {kAllUsers, kOneUser},
                                       Available::kLater);
     layout->addWidget(frameXPDataAccess);
-    layout->addWidget(BuildLinksFrame());
+    layout->addWidget(BuildInstrumentFrame());
+    layout->addWidget(BuildHandheldFrame());
     layout->addStretch();
 }
 
@@ -61,61 +63,60 @@ QGroupBox* ProgramOptionsPage::BuildDirectoryFrame() {
     return frame;
 }
 
-QGroupBox* ProgramOptionsPage::BuildLinksFrame() {
-    QGroupBox* const frame = controls_.Frame(kInstrumentLink);
-    const auto address = [frame](const char* name) {
-        auto* box = new QComboBox(frame);
-        box->setObjectName(QString::fromLatin1(name));
-        // an address can be typed that no search has found
-        box->setEditable(true);
-        box->setEnabled(false);
-        return box;
-    };
-    cmbInstrumentAddress = address("cmbInstrumentAddress");
-    BuildInstrumentChoice();
-    cmbHandheldAddress = address("cmbHandheldAddress");
-    auto* handheld = new QHBoxLayout;
-    handheld->addWidget(cmbHandheldAddress, 1);
-    BuildHandheldChoice();
-    handheld->addWidget(cmdBrowseHandheld);
-    auto* form = new QFormLayout;
-    form->addRow(ToQt(texts_, kInstrumentLink), cmbInstrumentAddress);
-    form->addRow(ToQt(texts_, kHandheld), handheld);
-    static_cast<QVBoxLayout*>(frame->layout())->addLayout(form);
-    return frame;
+QComboBox* ProgramOptionsPage::AddressBox(const char* name, const TextRow& label,
+                                          const TextRow& hint) {
+    auto* box = new QComboBox(this);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setAccessibleName(ToQt(texts_, label));
+    // an address can be typed that no search has found
+    box->setEditable(true);
+    // completing would turn what was typed into an earlier, longer address
+    box->setCompleter(nullptr);
+    // what was typed is no entry before it is known to be an address
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->lineEdit()->setPlaceholderText(ToQt(texts_, hint));
+    return box;
 }
 
-void ProgramOptionsPage::BuildInstrumentChoice() {
-    cmbInstrumentAddress->setEnabled(true);
-    cmbInstrumentAddress->setAccessibleName(ToQt(texts_, kInstrumentLink));
-    // what was typed is no entry before it is known to be an address
-    cmbInstrumentAddress->setInsertPolicy(QComboBox::NoInsert);
+QGroupBox* ProgramOptionsPage::BuildInstrumentFrame() {
+    QGroupBox* const frame = controls_.Frame(kInstrumentLink);
+    cmbInstrumentAddress = AddressBox("cmbInstrumentAddress", kInstrumentLink, kInstrumentHint);
     cmbInstrumentAddress->addItem(QStringLiteral("irda"));
-    cmbInstrumentAddress->lineEdit()->setPlaceholderText(ToQt(texts_, kInstrumentHint));
     const auto chosen = [this] {
         const QString address = cmbInstrumentAddress->currentText();
         if (address != instrument_) emit InstrumentAddressChosen(address);
     };
     connect(cmbInstrumentAddress->lineEdit(), &QLineEdit::editingFinished, this, chosen);
     connect(cmbInstrumentAddress, &QComboBox::activated, this, chosen);
+    auto* form = new QFormLayout;
+    form->addRow(ToQt(texts_, kInstrumentLink), cmbInstrumentAddress);
+    static_cast<QVBoxLayout*>(frame->layout())->addLayout(form);
+    return frame;
 }
 
-void ProgramOptionsPage::BuildHandheldChoice() {
-    cmbHandheldAddress->setEnabled(true);
-    cmbHandheldAddress->setAccessibleName(ToQt(texts_, kHandheld));
-    // what was typed is no entry before it is known to be an address
-    cmbHandheldAddress->setInsertPolicy(QComboBox::NoInsert);
-    cmbHandheldAddress->lineEdit()->setPlaceholderText(ToQt(texts_, kHandheldHint));
-    cmdBrowseHandheld = controls_.Button("cmdBrowseHandheld", kBrowse);
-    cmdBrowseHandheld->setEnabled(true);
+QGroupBox* ProgramOptionsPage::BuildHandheldFrame() {
+    QGroupBox* const frame = controls_.Frame(kHandheld);
+    cmbHandheldAddress = AddressBox("cmbHandheldAddress", kHandheld, kHandheldHint);
+    // elsewhere it would only end the program
+    if (DefaultHandheldAddress().Remote) cmbHandheldAddress->addItem(QStringLiteral("rapi"));
     const auto chosen = [this] {
-        if (cmbHandheldAddress->currentText() == handheld_) return;
-        emit HandheldAddressChosen(cmbHandheldAddress->currentText());
+        const QString address = cmbHandheldAddress->currentText();
+        if (address != handheld_) emit HandheldAddressChosen(address);
     };
     connect(cmbHandheldAddress->lineEdit(), &QLineEdit::editingFinished, this, chosen);
     connect(cmbHandheldAddress, &QComboBox::activated, this, chosen);
+    cmdBrowseHandheld = controls_.Button("cmdBrowseHandheld", kBrowse);
+    cmdBrowseHandheld->setAccessibleName(ToQt(texts_, kHandheldBrowse));
+    cmdBrowseHandheld->setEnabled(true);
     connect(cmdBrowseHandheld, &QPushButton::clicked, this,
             [this] { emit HandheldBrowseWanted(); });
+    auto* handheld = new QHBoxLayout;
+    handheld->addWidget(cmbHandheldAddress, 1);
+    handheld->addWidget(cmdBrowseHandheld);
+    auto* form = new QFormLayout;
+    form->addRow(ToQt(texts_, kHandheld), handheld);
+    static_cast<QVBoxLayout*>(frame->layout())->addLayout(form);
+    return frame;
 }
 
 void ProgramOptionsPage::ShowOptions(const ProgramOptions& options,

@@ -57,10 +57,10 @@ class ProgramOptionsPage final : public QWidget {
     // One frame each, from top to bottom.
     QGroupBox* BuildProgramFrame();
     QGroupBox* BuildDirectoryFrame();
-    QGroupBox* BuildLinksFrame();
-    void BuildInstrumentChoice();
+    QGroupBox* BuildInstrumentFrame();
+    QGroupBox* BuildHandheldFrame();
+    QComboBox* AddressBox(const char* name, const TextRow& label, const TextRow& hint);
     void MakeLive(QCheckBox* box, const char* key);
-    void BuildHandheldChoice();
 
     const Texts& texts_;
     OptionControls controls_;

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
+#include <vector>
 
 #include "platform/posix/PosixFolders.h"
 #include "platform/posix/PosixHandle.h"
@@ -139,11 +140,22 @@ Status PosixFiles::MakeDirectory(const std::string& path) {
 }
 
 Status PosixFiles::MakeDirectoryChain(const std::string& path) {
+    std::vector<std::string> missing;
+    for (std::filesystem::path part(path); !part.empty() && !Exists(part.string());
+         part = part.parent_path()) {
+        missing.push_back(part.string());
+    }
     std::error_code code;
     std::filesystem::create_directories(path, code);
     if (code) return Error{code.value(), code.message()};
     // a plain file in the place of the directory is a failure, whatever the library says of it
     if (!IsDirectory(path)) return Error{ENOTDIR, std::strerror(ENOTDIR)};
+    // a file that is flushed in there is lost in a power cut when the name of its directory is
+    for (const std::string& made : missing) {
+        const Status flushed = posix::FlushDirectory(posix::DirectoryOf(made));
+        // one that may be written to but not read cannot be flushed
+        if (!flushed.Ok() && flushed.Why().Number != EACCES) return flushed;
+    }
     return {};
 }
 

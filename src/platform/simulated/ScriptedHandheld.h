@@ -14,6 +14,7 @@ class ScriptedHandheld final : public HandheldAccess {
   public:
     std::map<std::string, std::string> Contents;  // path to bytes
     std::set<std::string> Folders;                // those that MakeFolder made
+    std::set<std::string> OnPc;                   // files that are the PC's under another path
     bool Connects = true;                         // what Connected says
     bool Initialises = true;
     int ComesUp = 0;  // how many times LinkHasComeUp says yes
@@ -38,6 +39,9 @@ class ScriptedHandheld final : public HandheldAccess {
     Result<std::string> FindFirst(const std::string& pattern) override;
     Result<std::string> FindNext() override;
     Result<std::unique_ptr<HandheldFile>> Open(const std::string& path) override;
+    bool IsFileOfPc(const std::string& path, const std::string& /*native*/) override {
+        return OnPc.contains(path);
+    }
     Status Delete(const std::string& path) override;
     Status Move(const std::string& from, const std::string& to) override;
     Status MakeFolder(const std::string& path) override;

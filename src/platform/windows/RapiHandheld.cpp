@@ -12,14 +12,6 @@ using windows::ToUtf8;
 using windows::ToWide;
 
 // What the library's functions take and give, as its interface lays it down.
-struct RapiInit {
-    DWORD Size;
-    HANDLE Started;  // signalled when the handheld answers
-    HRESULT Outcome;
-};
-// where the library lives: 32-bit Windows
-static_assert(sizeof(void*) != 4 || sizeof(RapiInit) == 12);
-
 struct CeFindData {
     DWORD Attributes;
     FILETIME Created;
@@ -34,6 +26,8 @@ struct CeFindData {
 constexpr DWORD kWaitMilliseconds = 100;
 constexpr DWORD kAnyInput = 239;  // keys, mouse, timers, painting, posted messages
 constexpr DWORD kNoSize = 0xFFFFFFFF;
+// folders, between two files
+constexpr int kMostPassedOver = 10000;
 
 // The handheld fills the record; nothing says that it ends the name.
 std::string NameOf(const CeFindData& found) {
@@ -50,11 +44,19 @@ bool IsFile(const CeFindData& found) {
 
 }  // namespace
 
+struct RapiHandheld::InitRecord {
+    DWORD Size = sizeof(InitRecord);
+    HANDLE Started = nullptr;  // signalled when the handheld answers
+    HRESULT Outcome = S_OK;
+};
+
 struct RapiHandheld::Library {
+    // where the library lives: 32-bit Windows
+    static_assert(sizeof(void*) != 4 || sizeof(InitRecord) == 12);
     // never from the folder that a shell happens to stand in
     HMODULE Module = LoadLibraryExW(
         L"rapi.dll", nullptr, LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
-    HRESULT(WINAPI* Init)(RapiInit*) = nullptr;
+    HRESULT(WINAPI* Init)(InitRecord*) = nullptr;
     HRESULT(WINAPI* Uninit)() = nullptr;
     HANDLE(WINAPI* FindFirstFile)(LPCWSTR, CeFindData*) = nullptr;
     BOOL(WINAPI* FindNextFile)(HANDLE, CeFindData*) = nullptr;
@@ -148,10 +150,10 @@ Status RapiHandheld::Initialise() {
     if (!library_->Complete) return Error{ERROR_MOD_NOT_FOUND, "rapi.dll cannot be loaded"};
     // whatever an earlier run has left
     library_->Uninit();
-    RapiInit init = {sizeof(RapiInit), nullptr, S_OK};
-    const HRESULT outcome = library_->Init(&init);
+    init_ = std::make_unique<InitRecord>();
+    const HRESULT outcome = library_->Init(init_.get());
     if (FAILED(outcome)) return Error{static_cast<int>(outcome), "the link was refused"};
-    started_ = init.Started;
+    started_ = init_->Started;
     initialised_ = true;
     return {};
 }
@@ -181,7 +183,9 @@ Result<std::string> RapiHandheld::FindFirst(const std::string& pattern) {
 
 Result<std::string> RapiHandheld::FindNext() {
     CeFindData found = {};
+    int passedOver = 0;
     do {
+        if (++passedOver > kMostPassedOver) return Error{0, "the listing does not end"};
         if (search_ == INVALID_HANDLE_VALUE) return Error{ERROR_NO_MORE_FILES, "no more files"};
         if (library_->FindNextFile(search_, &found) == 0) {
             Error error = LastError();

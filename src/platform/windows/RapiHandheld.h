@@ -30,13 +30,16 @@ class RapiHandheld final : public HandheldAccess {
     Status MakeFolder(const std::string& path) override;
 
   private:
-    struct Library;  // the functions that are used
+    struct Library;     // the functions that are used
+    struct InitRecord;  // what the link's begin tells
 
     void EndSearch();
     Error LastError() const;
 
     // Shared with open files, which must not outlive the library.
     std::shared_ptr<const Library> library_;
+    // The library goes on writing into it after Initialise, until the link ends.
+    std::unique_ptr<InitRecord> init_;
     HANDLE started_ = nullptr;  // the library's event; it belongs to the library
     HANDLE search_ = INVALID_HANDLE_VALUE;
     bool initialised_ = false;

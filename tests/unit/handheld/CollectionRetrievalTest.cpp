@@ -11,6 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 const std::string kKept = "/b/VEK/.recovery/2004-03-05 13-30-00 ";
 
@@ -51,8 +52,9 @@ TEST(CollectionRetrieval, SecondOfTwoEqualNamesIsKeptBeforeTheFirstOnesDeletionT
     run.Disk.Contents[OnPc("A.csv")] = "older";
     run.Run();
     const std::string kept = "A.csv was kept as " + kKept + "A (2).csv";
-    EXPECT_THAT(run.Grid(), ElementsAre("A.csv Yes Yes " + kept,
-                                        "A.csv Yes No No such file or directory; " + kept));
+    EXPECT_THAT(run.Grid(),
+                ElementsAre("A.csv Yes Yes An older A.csv was kept as " + kKept + "A.csv; " + kept,
+                            "A.csv Yes No No such file or directory; " + kept));
     EXPECT_THAT(run.User.ShownTexts(), ElementsAre("Unable to open WinCE file" + Ppc("A.csv") +
                                                    "\r\nError: No such file or directory"));
     EXPECT_EQ(run.Disk.Contents[OnPc("A.csv")], "first");
@@ -80,6 +82,53 @@ TEST(CollectionRetrieval, WhatCannotBeReadIsMovedAsideInsteadOfDeleted) {
     EXPECT_FALSE(run.Disk.Contents.contains(OnPc("A.csv")));
 }
 
+TEST(CollectionRetrieval, BytesThatCameAfterTheCopyAreKept) {
+    Retrieval run;
+    run.Handheld.Contents = {{Pda("A.csv"), "bytes"}};
+    run.User.OnEvents = [&run] {
+        if (run.Handheld.Operations == 8) run.Handheld.Contents[Pda("A.csv")] = "bytes and more";
+    };
+    run.Run();
+    EXPECT_THAT(run.Grid(), ElementsAre("A.csv Yes Yes A.csv was kept as " + kKept + "A.csv"));
+    EXPECT_EQ(run.Disk.Contents[kKept + "A.csv"], "bytes and more");
+}
+
+TEST(CollectionRetrieval, OneFileUnderTwoPathsIsLeftAlone) {
+    const std::string said =
+        "It was left alone: it is the same file as " + OnPc("A.csv") + " on this computer";
+    // the folder that leads to the PC's; the row of its file; the first of two copies is the PC's
+    const std::pair<std::string, std::string> cases[] = {{kPda, "A.csv No No " + said},
+                                                         {kPpc, "A.csv Yes Yes "}};
+    for (const auto& [folder, row] : cases) {
+        Retrieval run;
+        run.Handheld.Contents = {{Pda("A.csv"), "bytes"}, {Ppc("A.csv"), "bytes"}};
+        run.Handheld.OnPc = {folder + "A.csv"};
+        run.Run();
+        EXPECT_EQ(run.Grid().at(0), row);
+        EXPECT_EQ(run.Grid().at(1), "A.csv No No " + said);
+        EXPECT_TRUE(run.Handheld.Contents.contains(folder + "A.csv"));
+    }
+}
+
+TEST(CollectionRetrieval, ATroubleIsNotHiddenByTheOtherFolder) {
+    Retrieval run;
+    run.Handheld.Contents = {{Pda("A.csv"), "first"}, {Ppc("A.csv"), "second"}};
+    run.Handheld.FailAt = 11;  // the deletion of the copied one
+    run.Run();
+    EXPECT_THAT(run.Grid().at(0), StartsWith("A.csv Yes No Input/output error; "));
+}
+
+TEST(CollectionRetrieval, AFileThatNeverEndsIsGivenUp) {
+    struct Endless : HandheldFile {
+        Result<std::size_t> Read(std::span<char> buffer) override { return buffer.size(); }
+        Result<std::uint64_t> Size() override { return std::uint64_t{1}; }
+        Status Close() override { return {}; }
+    } file;
+    const auto reading = ReadThrough(
+        file, EnglishTexts(), [](std::string_view) { return Status(); }, [] { return true; });
+    EXPECT_EQ(reading.How, ReadingOutcome::End::kShort);
+}
+
 TEST(CollectionRetrieval, TellsALostFileFromASmallerTrouble) {
     // the operation that fails: listing, reading, closing, deleting
     const std::tuple<int, RetrievalOutcome, std::string> cases[] = {
@@ -88,7 +137,7 @@ TEST(CollectionRetrieval, TellsALostFileFromASmallerTrouble) {
          "Input/output error"},
         {4, RetrievalOutcome::kFailed, "Not everything went well."},
         {7, RetrievalOutcome::kNotDeleted, "Not everything went well."},
-        {8, RetrievalOutcome::kNotDeleted, "Not everything went well."}};
+        {10, RetrievalOutcome::kNotDeleted, "Not everything went well."}};
     for (const auto& [operation, outcome, line] : cases) {
         Retrieval run;
         run.Handheld.Contents = {{Pda("A.csv"), "bytes"}};
@@ -158,6 +207,9 @@ TEST(CollectionRetrieval, StopsAtEveryTurnWithoutDeletingWhatIsNotCopied) {
         };
         run.Run();
         finished = turns < turn;
+        for (const RetrievalRow& row : run.Rows) {
+            EXPECT_EQ(row.Downloaded, run.Disk.Contents.contains(OnPc(row.Name))) << turn;
+        }
         EXPECT_EQ(run.Session.State, finished ? CollectState::kFinished : CollectState::kCancelled);
         EXPECT_LE(turns, turn + 6);  // it looks, and ends
         EXPECT_THAT(run.Gone(files), IsEmpty());

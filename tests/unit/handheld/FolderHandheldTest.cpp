@@ -37,12 +37,23 @@ TEST_F(FolderHandheldTest, LetterCaseDoesNotMatter) {
     EXPECT_TRUE(Handheld.Connected());
     EXPECT_THAT(Found("\\TalvexPDA\\collections\\*.csv"), ElementsAre("A.csv", "b.CSV", "c.Csv"));
     EXPECT_THAT(Found("\\TalvexPPC\\collections\\*.csv"), ElementsAre());
+    EXPECT_EQ(Handheld.FindFirst("\\TalvexPPC\\collections\\*.csv").Why().Number, 0);
+    // a file in a folder's place is no empty folder
+    EXPECT_NE(Handheld.FindFirst("\\TalvexPDA\\collections\\a.csv\\*.csv").Why().Number, 0);
+    auto file = Handheld.Open("\\TalvexPDA\\collections\\A.COL");
+    ASSERT_TRUE(file.Ok());
     char bytes[100];
-    const std::size_t length =
-        Handheld.Open("\\TalvexPDA\\collections\\A.COL").Value()->Read(bytes).Value();
+    const std::size_t length = file.Value()->Read(bytes).Value();
     EXPECT_EQ(std::string(bytes, length), folder + "a.col");
     EXPECT_TRUE(Handheld.Delete("\\TalvexPDA\\collections\\B.csv").Ok());
     EXPECT_FALSE(fs::exists(root_ / folder / "b.CSV"));
+    const std::string twin = (root_ / "twin.csv").string();
+    fs::create_hard_link(root_ / folder / "c.Csv", twin);
+    EXPECT_TRUE(Handheld.IsFileOfPc("\\TalvexPDA\\collections\\C.csv", twin));
+    EXPECT_FALSE(Handheld.IsFileOfPc("\\TalvexPDA\\collections\\A.csv", twin));
+    // what is appended while it is open counts
+    std::ofstream(root_ / folder / "a.col", std::ios::app) << "more";
+    EXPECT_EQ(file.Value()->Size().Value(), length + 4);
     // of two that differ in letter case alone, the exact one
     Write(folder + "a.CSV");
     EXPECT_TRUE(Handheld.Delete("\\TALVEXPDA\\collections\\a.CSV").Ok());
