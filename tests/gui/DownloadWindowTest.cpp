@@ -189,6 +189,8 @@ TEST_F(DownloadWindow, OnlyWhatWasReceivedWholeIsOpenedAndThenClearedIfWanted) {
     SetStream("INSTRUMENT: K42\r\nEND DATA: 1\r\n");
     Download();
     EXPECT_EQ(Data.CurrentDataFile, "");
+    // the clock stands, and a file that cannot be kept is not replaced
+    Disk.Contents.erase(kFile);
     SetStream(kThreeReadings);
     Download();
     EXPECT_THAT(User.ShownTexts(),

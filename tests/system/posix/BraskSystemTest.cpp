@@ -31,7 +31,8 @@ TEST_F(BraskOnPosix, WhatIsNoFileOrMissingIsNamedInTheSystemsWords) {
                   "Cannot read " + At(name) + ": " + reason);
     }
     // the handheld is a folder, and nobody has named it
-    EXPECT_EQ(Run({"retrieve"}).Error, "Unable to connect to PocketPC\n");
+    EXPECT_EQ(Run({"retrieve"}).Error.rfind("Unable to connect to PocketPC\nNo handheld is set", 0),
+              0U);
 }
 
 TEST_F(BraskOnPosix, AResultThatCannotBeWrittenIsAFailure) {
