@@ -19,7 +19,7 @@ std::string ClockText(long minutes) {
     return twoDigits(minutes / 60) + ":" + twoDigits(minutes % 60);
 }
 
-constexpr long kMinutesPerDay = 24 * 60;
+constexpr long kMinutesPerDay = 24L * 60;
 
 std::string WeekMoment(double days, bool isEnd, int startWeekOn, const UserLocale& locale) {
     const long minutes =

@@ -156,7 +156,7 @@ void PlotOverlay::DrawLegend(QCPPainter& painter) const {
         QPen sample(ToColor(curve.Color), 2);
         if (curve.Line == LineStyle::kDotted) sample.setDashPattern({1, 2});
         painter.setPen(sample);
-        const QPointF begin(box.left() + 6, top + height / 2);
+        const QPointF begin(box.left() + 6, top + height / 2.0);
         painter.drawLine(begin, begin + QPointF(kLegendSample, 0));
         painter.setPen(ToColor(chart_.X.Color));
         painter.drawText(box.left() + 12 + kLegendSample, top + metrics.ascent(), name(line));
