@@ -29,6 +29,9 @@ inline constexpr auto kHandheldFolder =
 // A notice in the status bar; %1 is what was typed.
 inline constexpr auto kBadHandheld =
     TextRow("app", "%1 is no address of a handheld: say \"rapi\" or \"dir:\" and a folder");
+// A notice when a retrieval has ended: what became of a file, and of how many others there is
+// something to tell.
+inline constexpr auto kMoreKept = TextRow("app", "%1; the log tells of %2 more files");
 // A notice in the status bar; %1 is the full path.
 inline constexpr auto kDataSaved = TextRow("app", "Data saved: %1");
 

@@ -1,5 +1,8 @@
 #include "app/ui/HandheldCommand.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "app/AppTexts.h"
 #include "data/RecoveryFolder.h"
 #include "handheld/SyncSoftware.h"
@@ -81,6 +84,7 @@ void HandheldCommand::Ended() {
     // closed before the run began, or read after an error
     if (collected_.State == CollectState::kRunning) collected_.State = CollectState::kCancelled;
     if (collected_.State == CollectState::kConnecting) collected_.State = CollectState::kFinished;
+    const std::string note = NoteOf(running_->Retrieval.Rows());
     running_.reset();
     parts_.Registry.SetBusy(false);
     if (system_.User.Ended() || collected_.State != CollectState::kFinished) return;
@@ -89,6 +93,17 @@ void HandheldCommand::Ended() {
     parts_.Registry.Guard("mnuReadPDAFile", [this] {
         parts_.Shown.Open(collected_.ReceivedFile, DataSource::kHandheld);
     });
+    // after the load, which ends older notices: the window that said it in its grid is gone
+    if (!note.empty()) system_.User.ShowNotice(note);
+}
+
+std::string HandheldCommand::NoteOf(const std::vector<RetrievalRow>& rows) const {
+    const auto noted = [](const RetrievalRow& row) { return !row.Status.empty(); };
+    const auto first = std::find_if(rows.begin(), rows.end(), noted);
+    if (first == rows.end()) return {};
+    const auto others = std::count_if(std::next(first), rows.end(), noted);
+    if (others == 0) return first->Status;
+    return system_.Words.Fill(app_texts::kMoreKept, {first->Status, std::to_string(others)});
 }
 
 void HandheldCommand::Serve(ProgramOptionsPage& page) {

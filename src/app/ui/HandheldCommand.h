@@ -12,6 +12,7 @@
 #include "app/ui/ProgramOptionsPage.h"
 #include "data/CollectSession.h"
 #include "data/Session.h"
+#include "handheld/CollectionRetrieval.h"
 #include "handheld/RetrievalParts.h"
 #include "platform/HandheldAddress.h"
 #include "platform/System.h"
@@ -54,6 +55,8 @@ class HandheldCommand {
     void mnuReadPDAFile_Click();
     void Run();
     void Ended();
+    // What became of files beyond being copied and deleted, in one line; empty when nothing did.
+    std::string NoteOf(const std::vector<RetrievalRow>& rows) const;
     void AddressChosen(ProgramOptionsPage& page, const QString& text);
     void cmdBrowseHandheld_Click(ProgramOptionsPage& page);
 
