@@ -152,7 +152,7 @@ Status PosixFiles::MakeDirectoryChain(const std::string& path) {
     if (!IsDirectory(path)) return Error{ENOTDIR, std::strerror(ENOTDIR)};
     // a file that is flushed in there is lost in a power cut when the name of its directory is
     for (const std::string& made : missing) {
-        const Status flushed = posix::FlushDirectory(posix::DirectoryOf(made));
+        Status flushed = posix::FlushDirectory(posix::DirectoryOf(made));
         // one that may be written to but not read cannot be flushed
         if (!flushed.Ok() && flushed.Why().Number != EACCES) return flushed;
     }
